@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+
+namespace rlx {
+
+enum class BoxIcon { kNone, kInformation, kQuestion, kExclamation, kStop };
+enum class BoxButtons { kOk, kYesNo };
+enum class BoxAnswer { kOk, kYes, kNo };
+
+struct MessageBox {
+    std::u16string title;
+    std::u16string text;
+    BoxIcon icon = BoxIcon::kNone;
+    BoxButtons buttons = BoxButtons::kOk;
+
+    friend bool operator==(const MessageBox&, const MessageBox&) = default;
+};
+
+/// Shows a message and waits for the answer. Called on the user-interface thread.
+class IMessageBoxes {
+public:
+    virtual ~IMessageBoxes() = default;
+
+    /// `kOk` for a box with an OK button, else `kYes` or `kNo`; a box that is closed answers `kNo`.
+    virtual BoxAnswer Show(const MessageBox& box) = 0;
+};
+
+}  // namespace rlx
