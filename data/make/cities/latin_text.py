@@ -18,17 +18,19 @@ def without_marks(text):
     return "".join(c for c in unicodedata.normalize("NFKD", text) if not unicodedata.combining(c))
 
 
+def latin1_piece(char):
+    """What stands for one character, the empty text where nothing can."""
+    if ord(char) < 0x80 or 0xA1 <= ord(char) <= 0xFF:
+        return char
+    piece = BY_HAND.get(char) or without_marks(char)
+    return piece if piece.isascii() else ""
+
+
 def to_latin1(text, fallback=""):
     """Returns TEXT in printable ISO 8859-1, else FALLBACK treated alike, else the empty text."""
-    pieces = []
-    for char in unicodedata.normalize("NFC", text):
-        if ord(char) < 0x80 or 0xA1 <= ord(char) <= 0xFF:
-            piece = char
-        else:
-            piece = BY_HAND.get(char) or without_marks(char)
-        if not piece or (piece != char and not piece.isascii()):
-            return to_latin1(fallback) if fallback and fallback != text else ""
-        pieces.append(piece)
+    pieces = [latin1_piece(char) for char in unicodedata.normalize("NFC", text)]
+    if not all(pieces):
+        return to_latin1(fallback) if fallback and fallback != text else ""
     return re.sub(r"\s+", " ", "".join(pieces)).strip()
 
 

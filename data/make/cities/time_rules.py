@@ -48,6 +48,8 @@ class Rule(NamedTuple):
 def encode_offset(minutes):
     """Whole hours as they are (-5), all else as hours * 100 + minutes with one sign (530, -330)."""
     hours, rest = divmod(abs(minutes), 60)
+    if rest and not hours:
+        raise ValueError(f"an offset of {minutes} minutes cannot be written: it would read as hours")
     value = hours * 100 + rest if rest else hours
     return -value if minutes < 0 else value
 
