@@ -19,13 +19,14 @@ def _layers(c, p, bases=(.74, .82, .90), amplitude=.022, seed=0):
         c.shape(colour, p.layer_strength, filled(ridge(c.width, c.height, top, waves)), fade=(top, 1, c.height, .55))
 
 
-def _stars(c, p, count, lowest, seed):
+def _stars(c, p, count, lowest, seed, moon=(0, 0, 0)):
+    """Scatters stars over the sky down to `lowest` of the height, none before the moon (x, y, radius)."""
     if not p.stars:
         return
     rng = np.random.default_rng(seed)
     for size, share in ((.0011, .65), (.0017, .35)):
-        dots = [ring(rng.uniform(0, c.width), rng.uniform(0, lowest * c.height), c.unit * size * rng.uniform(.7, 1.2))
-                for _ in range(int(count * share))]
+        places = [(rng.uniform(0, c.width), rng.uniform(0, lowest * c.height), rng.uniform(.7, 1.2)) for _ in range(int(count * share))]
+        dots = [ring(x, y, c.unit * size * k) for x, y, k in places if math.dist((x, y), moon[:2]) > moon[2]]
         c.shape(p.stars, .55, filled(*dots), fade=(0, 1, lowest * c.height, .15))
 
 
@@ -41,7 +42,7 @@ def clocks(c, p):
     c.gradient(p.sky)
     sx, sy = .30 * c.width, .70 * c.height
     c.glow(sx, sy, .75 * u, p.light, .75 * p.glow)
-    _stars(c, p, 150, .66, 3)
+    _stars(c, p, 150, .66, 3, moon=(sx, sy, .09 * u))
     c.shape(p.light, p.disc, filled(ring(sx, sy, .085 * u)))
     _layers(c, p, seed=.6)
     x, y, r = .80 * c.width, .21 * c.height, .36 * u
@@ -101,7 +102,7 @@ def weather(c, p):
     c.gradient(p.sky)
     x, y = .78 * c.width, .20 * c.height
     c.glow(x, y, .8 * u, p.light, .8 * p.glow)
-    _stars(c, p, 120, .6, 5)
+    _stars(c, p, 120, .6, 5, moon=(x, y, .14 * u))
     c.shape(p.light, p.disc, filled(ring(x, y, .13 * u)))
     c.shape(p.line, p.line_strength, stroked(.004 * u, ring(x, y, .19 * u)))
     rays = [ring(x, y, .26 * u), ring(x, y, .34 * u)] if p.stars else _ticks(x, y, .23 * u, .30 * u, 24)
@@ -217,10 +218,12 @@ def packing(c, p):
     _stars(c, p, 110, .5, 41)
     path = curve((-.04 * c.width, .40 * c.height), (.25 * c.width, .20 * c.height), (.55 * c.width, .16 * c.height), (1.04 * c.width, .30 * c.height))
     c.shape(p.accent, .45, stroked(.0045 * u, path, dash=(.001 * u, .016 * u)))
-    floor = c.height
-    _case(c, p, p.layers[0], .50 * c.width - .30 * u, floor - .44 * u, .50 * u, .60 * u, (.2, .8))
-    _case(c, p, p.layers[1], .50 * c.width + .06 * u, floor - .31 * u, .40 * u, .50 * u, (.16, .28, .40, .52, .64, .76, .88))
-    _case(c, p, p.layers[2], .50 * c.width - .46 * u, floor - .20 * u, .46 * u, .40 * u, (.28, .72))
+    floor = .89 * c.height
+    _layers(c, p, bases=(.80, .87, .95), amplitude=.010, seed=1.1)
+    c.shape(p.line, p.line_strength * .6, filled(rounded(.5 * c.width - .46 * u, floor - .012 * u, .92 * u, .03 * u, .015 * u)))
+    _case(c, p, p.layers[0], .50 * c.width - .28 * u, floor - .44 * u, .48 * u, .44 * u, (.2, .8))
+    _case(c, p, p.layers[1], .50 * c.width + .06 * u, floor - .31 * u, .36 * u, .31 * u, (.16, .28, .40, .52, .64, .76, .88))
+    _case(c, p, p.layers[2], .50 * c.width - .42 * u, floor - .22 * u, .42 * u, .22 * u, (.28, .72))
 
 
 SCENES = {"clocks": clocks, "map_back": world, "weather": weather, "common": common, "convert": converter, "dial": dialing,
