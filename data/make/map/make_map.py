@@ -13,15 +13,14 @@ is read back and checked.
 import os
 import sys
 
-import cairo
 import numpy as np
 from PIL import Image
 
 import geometry
-from lakes import LAKES
+from chart import Chart
+from fields import gaussian, mix, natural_fields, ramp, resize
 
 MAX_BYTES = 400_000
-RIM = 1 / 8  # share of the width repeated at both sides while blurring, so that nothing shows at the date line
 
 
 class Look:
@@ -47,122 +46,6 @@ DARK = Look((32, 64, 64), sea=[(34, 68, 90), (35, 71, 97), (38, 80, 108)],
 
 # folder under the skin's own, width: the skin's folder holds a small one for previews and the smallest screens
 SIZES = [("", 480), ("Portrait", 960), ("Square", 1280), ("Landscape", 2048)]
-
-
-def gaussian(field, radius):
-    """Blurs a (h, w) or (h, w, k) float field; wraps round in longitude, repeats the rows at the poles."""
-    height, width = field.shape[:2]
-    reach = int(np.ceil(3 * radius))
-    kernel = np.exp(-.5 * (np.arange(-reach, reach + 1) / max(radius, 1e-6)) ** 2)
-    kernel /= kernel.sum()
-    rows = field[np.clip(np.arange(-reach, height + reach), 0, height - 1)]
-    out = sum(k * rows[i:i + height] for i, k in enumerate(kernel))
-    columns = out[:, np.arange(-reach, width + reach) % width]
-    return sum(k * columns[:, i:i + width] for i, k in enumerate(kernel))
-
-
-def resize(field, width, height):
-    """Smooth enlargement of a float field without a seam at the date line."""
-    rim = int(field.shape[1] * RIM)
-    wide = np.concatenate([field[:, -rim:], field, field[:, :rim]], 1)
-    big_rim = round(width * RIM)
-    planes = wide[..., None] if wide.ndim == 2 else wide
-    done = [np.asarray(Image.fromarray(planes[..., k].astype(np.float32)).resize((width + 2 * big_rim, height), Image.BICUBIC))
-            for k in range(planes.shape[2])]
-    out = np.stack(done, -1)[:, big_rim:big_rim + width]
-    return out[..., 0] if field.ndim == 2 else out
-
-
-def ramp(field, colours):
-    stops = np.linspace(0, 1, len(colours))
-    return np.stack([np.interp(field, stops, [c[k] for c in colours]) for k in range(3)], -1)
-
-
-def mix(below, above, share):
-    share = np.asarray(share, float)
-    return below + (np.asarray(above, float) - below) * (share[..., None] if share.ndim == 2 else share)
-
-
-class Chart:
-    """Masks of one map size, 0..1, drawn from the geometry."""
-
-    def __init__(self, width, rings, borders):
-        self.width, self.height = width, width // 2
-        self._rings, self._borders = rings, borders
-
-    def _draw(self, paint):
-        surface = cairo.ImageSurface(cairo.FORMAT_A8, self.width, self.height)
-        context = cairo.Context(surface)
-        context.set_fill_rule(cairo.FILL_RULE_EVEN_ODD)
-        context.set_line_join(cairo.LINE_JOIN_ROUND)
-        paint(context)
-        surface.flush()
-        rows = np.frombuffer(surface.get_data(), np.uint8).reshape(self.height, surface.get_stride())
-        return rows[:, :self.width].astype(float) / 255
-
-    def _point(self, longitude, latitude):
-        return (longitude + 180) / 360 * self.width, (90 - latitude) / 180 * self.height
-
-    def _trace(self, context, points):
-        for x, y in points:
-            context.line_to(*self._point(x, y))
-
-    def land(self):
-        def paint(context):
-            # a hair of stroke closes the light seams between neighbouring countries
-            context.set_line_width(.35)
-            for ring in self._rings:
-                context.new_path()
-                self._trace(context, ring)
-                context.close_path()
-                context.fill_preserve()
-                context.stroke()
-        return self._draw(paint)
-
-    def borders(self, line_width):
-        def paint(context):
-            context.set_line_width(line_width)
-            for line in self._borders:
-                self._trace(context, line)
-                context.stroke()
-        return self._draw(paint)
-
-    def lakes(self):
-        def paint(context):
-            for outline in LAKES.values():
-                points = [self._point(*p) for p in outline]
-                around = [points[-1]] + points + points[:2]
-                context.move_to(*points[0])
-                for a, b, c, d in zip(around, around[1:], around[2:], around[3:]):  # rounded through every point
-                    context.curve_to(b[0] + (c[0] - a[0]) / 6, b[1] + (c[1] - a[1]) / 6,
-                                     c[0] - (d[0] - b[0]) / 6, c[1] - (d[1] - b[1]) / 6, *c)
-                context.fill()
-        return self._draw(paint)
-
-
-def natural_fields(path, rings, borders):
-    """(land colour, sea depth) of the 720x360 raster, each carried on over the shore: no blue on land, no sand at sea."""
-    raster = np.asarray(Image.open(path).convert("RGB"), float)
-    land = Chart(raster.shape[1], rings, borders).land()
-    inland, offshore = land > .98, gaussian(land, 1.2) < .02
-    colour = _carry_on(raster, inland)
-    depth = _carry_on(raster.mean(-1), offshore)
-    depth[:24] = depth[24]  # the raster's first rows are smeared
-    low, high = np.percentile(depth[offshore], (3, 98))
-    return colour, gaussian(np.clip((depth - low) / (high - low), 0, 1), 3)
-
-
-def _carry_on(field, known):
-    """Replaces what is not known by the weighted mean of known neighbours, from near to far."""
-    out = field.astype(float).copy()
-    todo = ~known
-    for radius in (1, 2, 4, 8, 16, 40):
-        weight = gaussian(known.astype(float), radius)
-        values = gaussian(field * (known if field.ndim == 2 else known[..., None]), radius)
-        found = todo & (weight > .05)
-        out[found] = values[found] / (weight[found] if field.ndim == 2 else weight[found][:, None])
-        todo &= ~found
-    return out
 
 
 def paint_map(look, chart, natural, texture):

@@ -97,7 +97,8 @@ def check_contrast(sections, blocks):
 def main():
     root = sys.argv[1]
     low = 0
-    for path, sections, palette in (("default.skn", colours.DEFAULT, palettes.DAY), ("skins/Night/night.skn", colours.NIGHT, palettes.NIGHT)):
+    for path, sections, palette in (("default.skn", colours.DEFAULT, palettes.DAY),
+                                    ("skins/Night/night.skn", colours.NIGHT, palettes.NIGHT)):
         file = os.path.join(root, path)
         text = skin_text(sections)
         if len(text) > MAX_TEXT:

@@ -8,33 +8,7 @@ import math
 import numpy as np
 
 from canvas import curve, filled, line, ridge, ring, rounded, stroked
-
-
-def _layers(c, p, bases=(.74, .82, .90), amplitude=.022, seed=0):
-    """Three ridges, each nearer and stronger than the one behind it."""
-    for k, (base, colour) in enumerate(zip(bases, p.layers)):
-        waves = [(c.unit * amplitude * (1 + .3 * k), 1.1 + .35 * k, seed + 1.9 * k),
-                 (c.unit * amplitude * .45, 2.7 + .5 * k, seed * 2 + 4.1 * k)]
-        top = base * c.height
-        c.shape(colour, p.layer_strength, filled(ridge(c.width, c.height, top, waves)), fade=(top, 1, c.height, .55))
-
-
-def _stars(c, p, count, lowest, seed, moon=(0, 0, 0)):
-    """Scatters stars over the sky down to `lowest` of the height, none before the moon (x, y, radius)."""
-    if not p.stars:
-        return
-    rng = np.random.default_rng(seed)
-    for size, share in ((.0011, .65), (.0017, .35)):
-        places = [(rng.uniform(0, c.width), rng.uniform(0, lowest * c.height), rng.uniform(.7, 1.2)) for _ in range(int(count * share))]
-        dots = [ring(x, y, c.unit * size * k) for x, y, k in places if math.dist((x, y), moon[:2]) > moon[2]]
-        c.shape(p.stars, .55, filled(*dots), fade=(0, 1, lowest * c.height, .15))
-
-
-def _ticks(x, y, inner, outer, count, begin=0.0, end=2 * math.pi, closed=True):
-    steps = count if closed else count - 1
-    for k in range(count):
-        a = begin + (end - begin) * k / steps
-        yield line((x + inner * math.cos(a), y + inner * math.sin(a)), (x + outer * math.cos(a), y + outer * math.sin(a)))
+from parts import case, graticule, layers, stars, ticks
 
 
 def clocks(c, p):
@@ -42,25 +16,25 @@ def clocks(c, p):
     c.gradient(p.sky)
     sx, sy = .30 * c.width, .70 * c.height
     c.glow(sx, sy, .75 * u, p.light, .75 * p.glow)
-    _stars(c, p, 150, .66, 3, moon=(sx, sy, .09 * u))
+    stars(c, p, 150, .66, 3, moon=(sx, sy, .09 * u))
     c.shape(p.light, p.disc, filled(ring(sx, sy, .085 * u)))
-    _layers(c, p, seed=.6)
+    layers(c, p, seed=.6)
     x, y, r = .80 * c.width, .21 * c.height, .36 * u
     c.shape(p.line, p.line_strength, stroked(.004 * u, ring(x, y, r)))
-    c.shape(p.line, p.line_strength * .8, stroked(.003 * u, *_ticks(x, y, .93 * r, .965 * r, 60)))
-    c.shape(p.line, p.line_strength, stroked(.006 * u, *_ticks(x, y, .87 * r, .965 * r, 12)))
+    c.shape(p.line, p.line_strength * .8, stroked(.003 * u, *ticks(x, y, .93 * r, .965 * r, 60)))
+    c.shape(p.line, p.line_strength, stroked(.006 * u, *ticks(x, y, .87 * r, .965 * r, 12)))
     c.shape(p.line, p.line_strength * .8, stroked(.003 * u, ring(x, y, .72 * r), ring(x, y, .70 * r)))
-    c.shape(p.line, p.line_strength * .8, stroked(.004 * u, *_ticks(x, y, .64 * r, .70 * r, 24)))
+    c.shape(p.line, p.line_strength * .8, stroked(.004 * u, *ticks(x, y, .64 * r, .70 * r, 24)))
 
 
 def world(c, p):
     u = c.unit
     c.gradient(p.sky)
-    _stars(c, p, 120, .6, 8)
+    stars(c, p, 120, .6, 8)
     x, y, r = .52 * c.width, 1.12 * c.height, max(.66 * c.width, .52 * c.height)
     c.glow(x, y, 1.35 * r, p.light, .55 * p.glow)
     c.shape(p.layers[0], p.layer_strength, filled(ring(x, y, r)), fade=(y - r, 1, c.height, .5))
-    c.shape(p.line, p.line_strength, stroked(.003 * u, ring(x, y, r), *_graticule(x, y, r, tilt=.5)))
+    c.shape(p.line, p.line_strength, stroked(.003 * u, ring(x, y, r), *graticule(x, y, r, tilt=.5)))
     stops = [(.10 * c.width, .94 * c.height), (.46 * c.width, .86 * c.height), (.90 * c.width, .92 * c.height)]
     routes = [curve(a, (a[0] * .7 + b[0] * .3, min(a[1], b[1]) - .12 * u), (a[0] * .3 + b[0] * .7, min(a[1], b[1]) - .12 * u), b)
               for a, b in zip(stops, stops[1:])]
@@ -68,44 +42,15 @@ def world(c, p):
     c.shape(p.accent, .6, filled(*(ring(*stop, .009 * u) for stop in stops)))
 
 
-def _graticule(x, y, r, tilt):
-    """Meridians and parallels of a globe seen from `tilt` radians above its equator, near side only."""
-    def seen(lon, lat):
-        px = math.cos(lat) * math.sin(lon)
-        py = math.sin(lat) * math.cos(tilt) - math.cos(lat) * math.cos(lon) * math.sin(tilt)
-        depth = math.sin(lat) * math.sin(tilt) + math.cos(lat) * math.cos(lon) * math.cos(tilt)
-        return (x + r * px, y - r * py), depth >= 0
-
-    def visible(samples):
-        run = []
-        for point, front in samples:
-            if front:
-                run.append(point)
-            elif len(run) > 1:
-                yield line(*run)
-                run = []
-            else:
-                run = []
-        if len(run) > 1:
-            yield line(*run)
-
-    turn = [math.radians(a) for a in range(-180, 181, 3)]
-    for lon in range(-180, 180, 15):
-        ends = 90 if lon % 45 == 0 else 75
-        yield from visible([seen(math.radians(lon), math.radians(lat)) for lat in range(-ends, ends + 1, 3)])
-    for lat in range(-75, 90, 15):
-        yield from visible([seen(lon, math.radians(lat)) for lon in turn])
-
-
 def weather(c, p):
     u = c.unit
     c.gradient(p.sky)
     x, y = .78 * c.width, .20 * c.height
     c.glow(x, y, .8 * u, p.light, .8 * p.glow)
-    _stars(c, p, 120, .6, 5, moon=(x, y, .14 * u))
+    stars(c, p, 120, .6, 5, moon=(x, y, .14 * u))
     c.shape(p.light, p.disc, filled(ring(x, y, .13 * u)))
     c.shape(p.line, p.line_strength, stroked(.004 * u, ring(x, y, .19 * u)))
-    rays = [ring(x, y, .26 * u), ring(x, y, .34 * u)] if p.stars else _ticks(x, y, .23 * u, .30 * u, 24)
+    rays = [ring(x, y, .26 * u), ring(x, y, .34 * u)] if p.stars else ticks(x, y, .23 * u, .30 * u, 24)
     c.shape(p.line, p.line_strength * (.5 if p.stars else 1), stroked((.003 if p.stars else .007) * u, *rays))
     rng = np.random.default_rng(12)
     for base, colour, size in ((.70, p.layers[0], .17), (.80, p.layers[1], .20), (.90, p.layers[2], .23)):
@@ -122,11 +67,11 @@ def common(c, p):
     u = c.unit
     c.gradient(p.sky)
     c.glow(.25 * c.width, .15 * c.height, .9 * u, p.light, .6 * p.glow)
-    _stars(c, p, 120, .6, 21)
-    _layers(c, p, bases=(.80, .87, .94), amplitude=.014, seed=2.2)
+    stars(c, p, 120, .6, 21)
+    layers(c, p, bases=(.80, .87, .94), amplitude=.014, seed=2.2)
     x, y, r = .80 * c.width, .30 * c.height, .34 * u
     c.shape(p.line, p.line_strength, stroked(.004 * u, ring(x, y, r), ring(x, y, .80 * r)))
-    c.shape(p.line, p.line_strength * .8, stroked(.003 * u, *_ticks(x, y, .83 * r, .94 * r, 72)))
+    c.shape(p.line, p.line_strength * .8, stroked(.003 * u, *ticks(x, y, .83 * r, .94 * r, 72)))
     for length, width, turn in ((.62, .11, math.pi / 4), (.96, .13, 0)):
         for k in range(4):
             a = turn + k * math.pi / 2
@@ -136,7 +81,8 @@ def common(c, p):
                 corner = (x + width * r * math.cos(b), y + width * r * math.sin(b))
                 half = line((x, y), tip, corner, (x, y))
                 c.shape(p.line, p.line_strength * (.75 if side > 0 else .35), filled(half))
-    path = curve((-.05 * c.width, .80 * c.height), (.20 * c.width, .60 * c.height), (.36 * c.width, .58 * c.height), (.60 * c.width, .64 * c.height))
+    path = curve((-.05 * c.width, .80 * c.height), (.20 * c.width, .60 * c.height),
+                 (.36 * c.width, .58 * c.height), (.60 * c.width, .64 * c.height))
     c.shape(p.accent, .5, stroked(.0045 * u, path, dash=(.001 * u, .016 * u)))
     c.shape(p.accent, .6, filled(ring(.60 * c.width, .64 * c.height, .009 * u)))
 
@@ -150,8 +96,8 @@ def converter(c, p):
         c.shape(p.layers[k], p.layer_strength * .8, filled(ring(x, y, share * r)))
     begin, end = math.pi, 1.5 * math.pi
     c.shape(p.line, p.line_strength, stroked(.004 * u, ring(x, y, r)))
-    c.shape(p.line, p.line_strength * .9, stroked(.003 * u, *_ticks(x, y, .94 * r, .98 * r, 121, math.pi * .9, math.pi * 1.6, False)))
-    c.shape(p.line, p.line_strength, stroked(.006 * u, *_ticks(x, y, .89 * r, .98 * r, 25, math.pi * .9, math.pi * 1.6, False)))
+    c.shape(p.line, p.line_strength * .9, stroked(.003 * u, *ticks(x, y, .94 * r, .98 * r, 121, math.pi * .9, math.pi * 1.6, False)))
+    c.shape(p.line, p.line_strength, stroked(.006 * u, *ticks(x, y, .89 * r, .98 * r, 25, math.pi * .9, math.pi * 1.6, False)))
     needle = begin + .62 * (end - begin)
     c.shape(p.accent, .55, stroked(.008 * u, line((x, y), (x + .86 * r * math.cos(needle), y + .86 * r * math.sin(needle)))))
     step, count = .0135 * u, int(c.width / (.0135 * u)) + 1
@@ -165,7 +111,7 @@ def dialing(c, p):
     c.gradient(p.sky)
     x, y = .10 * c.width, 1.0 * c.height
     c.glow(x, y, 1.1 * u, p.light, .6 * p.glow)
-    _stars(c, p, 100, .5, 31)
+    stars(c, p, 100, .5, 31)
     for k, radius in enumerate((.86, .64, .42)):
         c.shape(p.layers[k], p.layer_strength * .75, filled(ring(x, y, radius * u)))
     c.shape(p.line, p.line_strength, stroked(.004 * u, *(ring(x, y, q * u) for q in (.20, .42, .64, .86, 1.08, 1.30))))
@@ -184,7 +130,8 @@ def clothing(c, p):
         waves = [(.05 * u, .9, 1.2 + 2.0 * k), (.02 * u, 1.9, .7 * k)]
         top = base * c.height
         c.shape(p.layers[k], p.layer_strength, filled(ridge(c.width, c.height, top, waves)), fade=(top, 1, c.height, .6))
-        c.shape(p.line, p.line_strength * 1.1, stroked(.004 * u, ridge(c.width, c.height * 2, top + .022 * u, waves), dash=(.016 * u, .014 * u)))
+        c.shape(p.line, p.line_strength * 1.1,
+                stroked(.004 * u, ridge(c.width, c.height * 2, top + .022 * u, waves), dash=(.016 * u, .014 * u)))
     x, y, s = .74 * c.width, .20 * c.height, .36 * u
 
     def hanger(context):
@@ -199,31 +146,20 @@ def clothing(c, p):
     c.shape(p.line, p.line_strength * 1.1, stroked(.010 * u, hanger))
 
 
-def _case(c, p, colour, x, y, width, height, straps):
-    u = c.unit
-    body = rounded(x, y, width, height, .035 * u)
-    c.shape(colour, .94, filled(body))
-    handle = rounded(x + .36 * width, y - .06 * u, .28 * width, .12 * u, .025 * u)
-    c.shape(p.line, p.line_strength, stroked(.004 * u, body))
-    c.shape(p.line, p.line_strength, lambda context: (context.rectangle(0, 0, c.width, y - .002 * u), context.clip(),
-                                                      stroked(.012 * u, handle)(context)))
-    marks = [line((x + q * width, y), (x + q * width, y + height)) for q in straps]
-    c.shape(p.line, p.line_strength * .9, stroked(.004 * u, *marks))
-
-
 def packing(c, p):
     u = c.unit
     c.gradient(p.sky)
     c.glow(.75 * c.width, .14 * c.height, .9 * u, p.light, .65 * p.glow)
-    _stars(c, p, 110, .5, 41)
-    path = curve((-.04 * c.width, .40 * c.height), (.25 * c.width, .20 * c.height), (.55 * c.width, .16 * c.height), (1.04 * c.width, .30 * c.height))
+    stars(c, p, 110, .5, 41)
+    path = curve((-.04 * c.width, .40 * c.height), (.25 * c.width, .20 * c.height),
+                 (.55 * c.width, .16 * c.height), (1.04 * c.width, .30 * c.height))
     c.shape(p.accent, .45, stroked(.0045 * u, path, dash=(.001 * u, .016 * u)))
     floor = .89 * c.height
-    _layers(c, p, bases=(.80, .87, .95), amplitude=.010, seed=1.1)
+    layers(c, p, bases=(.80, .87, .95), amplitude=.010, seed=1.1)
     c.shape(p.line, p.line_strength * .6, filled(rounded(.5 * c.width - .46 * u, floor - .012 * u, .92 * u, .03 * u, .015 * u)))
-    _case(c, p, p.layers[0], .50 * c.width - .28 * u, floor - .44 * u, .48 * u, .44 * u, (.2, .8))
-    _case(c, p, p.layers[1], .50 * c.width + .06 * u, floor - .31 * u, .36 * u, .31 * u, (.16, .28, .40, .52, .64, .76, .88))
-    _case(c, p, p.layers[2], .50 * c.width - .42 * u, floor - .22 * u, .42 * u, .22 * u, (.28, .72))
+    case(c, p, p.layers[0], .50 * c.width - .28 * u, floor - .44 * u, .48 * u, .44 * u, (.2, .8))
+    case(c, p, p.layers[1], .50 * c.width + .06 * u, floor - .31 * u, .36 * u, .31 * u, (.16, .28, .40, .52, .64, .76, .88))
+    case(c, p, p.layers[2], .50 * c.width - .42 * u, floor - .22 * u, .42 * u, .22 * u, (.28, .72))
 
 
 SCENES = {"clocks": clocks, "map_back": world, "weather": weather, "common": common, "convert": converter, "dial": dialing,
