@@ -30,12 +30,13 @@ function(rlx_resource_image name output)
     add_custom_command(
         OUTPUT ${output}
         COMMAND ${RLX_WINDRES} -c 65001 --preprocessor=${CMAKE_C_COMPILER} --preprocessor-arg=-E
-                --preprocessor-arg=-xc --preprocessor-arg=-DRC_INVOKED -I ${ids}
+                --preprocessor-arg=-xc --preprocessor-arg=-DRC_INVOKED -I ${ids} -I ${CMAKE_SOURCE_DIR}/resources
                 ${CMAKE_CURRENT_SOURCE_DIR}/${name}.rc ${object}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
         COMMAND ${RLX_PE_LD} --dll --no-insert-timestamp -s -e 0 -o ${output} ${object}
         BYPRODUCTS ${object}
-        DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}.rc ${RLX_RESOURCE_IDS} resource_ids
+        DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}.rc ${CMAKE_SOURCE_DIR}/resources/styles.h
+                ${RLX_RESOURCE_IDS} resource_ids
         COMMENT "Compiling the resources of ${name}" VERBATIM)
 endfunction()
 

@@ -17,6 +17,19 @@ CPeImage English() {
     return *image;
 }
 
+/// The resource of `module` if it is there and sound, else that of `english`.
+template <typename Template>
+std::optional<Template> Lookup(const std::optional<CPeImage>& module, const CPeImage& english, ResourceType type,
+                               int id, std::optional<Template> (*parse)(std::span<const std::byte>)) {
+    if (module) {
+        const auto resource = module->Find(type, id);
+        auto value = resource ? parse(*resource) : std::nullopt;
+        if (value) return value;
+    }
+    const auto resource = english.Find(type, id);
+    return resource ? parse(*resource) : std::nullopt;
+}
+
 }  // namespace
 
 CResources::CResources() : m_english(English()) {}
@@ -36,6 +49,14 @@ std::u16string CResources::Text(int id) const {
         if (!text.empty()) return text;
     }
     return FindText(m_english, id);
+}
+
+std::optional<MenuTemplate> CResources::Menu(int id) const {
+    return Lookup(m_module, m_english, ResourceType::kMenu, id, &ParseMenu);
+}
+
+std::optional<DialogTemplate> CResources::Dialog(int id) const {
+    return Lookup(m_module, m_english, ResourceType::kDialog, id, &ParseDialog);
 }
 
 }  // namespace rlx

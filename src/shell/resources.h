@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "shell/dialog_template.h"
+#include "shell/menu_template.h"
 #include "shell/pe_image.h"
 #include "shell/texts.h"
 
@@ -15,7 +17,7 @@ namespace rlx {
 class CResources : public ITexts {
 public:
     /// A module file larger than this is refused; give it to `IFileSystem::ReadFile` as the limit.
-    static constexpr std::size_t kMaxModuleSize = 16U * 1024U * 1024U;
+    static constexpr std::size_t kMaxModuleSize = 4U * 1024U * 1024U;
 
     /// The built-in English set.
     CResources();
@@ -26,6 +28,12 @@ public:
 
     /// `id` is a `TextId`. Empty when not even the English set has that number.
     std::u16string Text(int id) const override;
+
+    /// `id` is a `MenuId`. Nothing when no set has a sound menu of that number.
+    std::optional<MenuTemplate> Menu(int id) const;
+
+    /// `id` is a `DialogId`. Nothing when no set has a sound dialog of that number.
+    std::optional<DialogTemplate> Dialog(int id) const;
 
 private:
     std::shared_ptr<const std::string> m_file;  // the module's bytes; null for English

@@ -1,34 +1,16 @@
 #include "shell/resources.h"
 
-#include <fstream>
-#include <regex>
 #include <set>
 
 #include "base/text.h"
-#include "support/paths.h"
+#include "shell/enumerators.h"
 
 namespace rlx {
 namespace {
 
-struct NumberedName {
-    std::string name;
-    int number;
-};
-
-std::vector<NumberedName> Enumerators(const std::string& header, const std::string& prefix) {
-    std::ifstream file(std::string(test::kTestDir) + "/../src/shell/" + header);
-    const std::regex pattern(" *(" + prefix + "\\w+) = (\\d+),.*");
-    std::vector<NumberedName> found;
-    for (std::string line; std::getline(file, line);) {
-        std::smatch match;
-        if (std::regex_match(line, match, pattern)) found.push_back({match[1], std::stoi(match[2])});
-    }
-    return found;
-}
-
 TEST(ResourcesTest, EveryNumberedTextIsThereAndNumberedOnce) {
     const CResources resources;
-    const auto names = Enumerators("text_ids.h", "kText");
+    const auto names = test::Enumerators("text_ids.h", "kText");
     ASSERT_GT(names.size(), 250U);
     std::set<int> seen;
     for (const auto& [name, number] : names) {
