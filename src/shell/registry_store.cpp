@@ -3,49 +3,10 @@
 #include <algorithm>
 #include <optional>
 
+#include "platform/registry_value.h"
 #include "shell/setting_names.h"
 
 namespace rlx {
-
-namespace {
-
-constexpr std::size_t kDwordSize = 4;
-
-std::uint32_t DwordOf(std::string_view bytes) {
-    std::uint32_t value = 0;
-    for (std::size_t i = kDwordSize; i-- > 0;)
-        value = (value << 8) | static_cast<unsigned char>(bytes[i]);
-    return value;
-}
-
-std::string BytesOf(std::uint32_t value) {
-    std::string bytes;
-    for (std::size_t i = 0; i < kDwordSize; ++i)
-        bytes.push_back(static_cast<char>((value >> (8 * i)) & 0xFF));
-    return bytes;
-}
-
-std::u16string TextOf(std::string_view bytes) {
-    std::u16string text;
-    text.reserve(bytes.size() / 2);
-    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-        const unsigned high = static_cast<unsigned char>(bytes[i + 1]);
-        text.push_back(static_cast<char16_t>((high << 8) | static_cast<unsigned char>(bytes[i])));
-    }
-    return text;
-}
-
-std::string BytesOf(std::u16string_view text) {
-    std::string bytes;
-    bytes.reserve(2 * text.size());
-    for (const char16_t unit : text) {
-        bytes.push_back(static_cast<char>(unit & 0xFF));
-        bytes.push_back(static_cast<char>(unit >> 8));
-    }
-    return bytes;
-}
-
-}  // namespace
 
 CRegistryStore::CRegistryStore(IRegistry& registry) : m_registry(registry) {}
 
@@ -55,9 +16,10 @@ std::uint32_t CRegistryStore::ReadDword(RegistryRoot root, std::u16string_view k
     m_status = ReadStatus::kValueMissing;
     if (!FindName(root, key, name)) return 0;
     const auto value = m_registry.Query(root, key, name);
-    if (!value || value->type != RegistryType::kDword || value->bytes.size() != kDwordSize) return 0;
+    const auto number = value ? DwordOf(*value) : std::nullopt;
+    if (!number) return 0;
     m_status = ReadStatus::kRead;
-    return DwordOf(value->bytes);
+    return *number;
 }
 
 bool CRegistryStore::FindName(RegistryRoot root, std::u16string_view key, std::u16string_view name) {
@@ -71,19 +33,20 @@ std::u16string CRegistryStore::ReadString(RegistryRoot root, std::u16string_view
     if (!m_registry.KeyExists(root, key)) return {};
     m_status = ReadStatus::kValueMissing;
     const auto value = m_registry.Query(root, key, name);
-    if (!value || value->type != RegistryType::kString) return {};
+    auto text = value ? TextOf(*value) : std::nullopt;
+    if (!text) return {};
     m_status = ReadStatus::kRead;
-    return TextOf(value->bytes);
+    return *std::move(text);
 }
 
 bool CRegistryStore::WriteDword(RegistryRoot root, std::u16string_view key, std::u16string_view name,
                                 std::uint32_t value) {
-    return m_registry.Set(root, key, name, {RegistryType::kDword, BytesOf(value)});
+    return m_registry.Set(root, key, name, DwordValue(value));
 }
 
 bool CRegistryStore::WriteString(RegistryRoot root, std::u16string_view key, std::u16string_view name,
                                  std::u16string_view text) {
-    return m_registry.Set(root, key, name, {RegistryType::kString, BytesOf(text)});
+    return m_registry.Set(root, key, name, TextValue(text));
 }
 
 bool CRegistryStore::WriteBinary(RegistryRoot root, std::u16string_view key, std::u16string_view name,
