@@ -17,10 +17,10 @@ struct CityRecord {
     CityIndex index = 0;
     std::u16string name;
     std::u16string country;
-    std::u16string longitude;  ///< degrees, east positive
-    std::u16string latitude;   ///< degrees, north positive
-    std::u16string gmtText;    ///< what `gmt` was read from
-    GmtOffset gmt = 0;         ///< without daylight saving
+    std::u16string longitude;              ///< degrees, east positive
+    std::u16string latitude;               ///< degrees, north positive
+    std::u16string gmtText;                ///< what `gmt` was read from
+    GmtOffset gmt = 0;                     ///< without daylight saving
     DstRule dstRule = {.observes = true};  ///< what an empty text gives: no "0" stands in it
 };
 
