@@ -37,7 +37,12 @@ StoreResult CConnection::OpenNamed(const char* name) {
         return Note(ToStoreResult(code));
     }
     sqlite3_busy_timeout(m_database, kBusyTimeout);
+    sqlite3_db_config(m_database, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     return StoreResult::kDone;
+}
+
+void CConnection::Trust() {
+    if (m_database != nullptr) sqlite3_db_config(m_database, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
 }
 
 void CConnection::Close() {

@@ -33,6 +33,10 @@ public:
 
     void Close();
 
+    /// Closing the last connection folds the log beside the file into it. That is off after `Open`, so that a file that
+    /// turns out to be damaged stays as it was found, log and all; on once the file is trusted.
+    void Trust();
+
     /// `sql` must be a literal: it is prepared once and found again by its address.
     CStatement Prepare(const char* sql);
 

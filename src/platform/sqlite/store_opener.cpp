@@ -152,6 +152,7 @@ OpenedStore CStoreOpener::FallBack(StoreOutcome outcome) {
 
 OpenedStore CStoreOpener::Finish(StoreOutcome outcome) {
     m_parts->connection.Execute("PRAGMA synchronous = FULL");
+    m_parts->connection.Trust();
     m_parts->suspectMark = m_suspectMark;
     return {std::unique_ptr<CDeviceStore>(new CDeviceStore(std::move(m_parts))), outcome, std::nullopt};
 }
