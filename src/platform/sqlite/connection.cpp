@@ -64,12 +64,12 @@ CStatement CConnection::Prepare(const char* sql) {
     return {*this, statement};
 }
 
-bool CConnection::CanPrepare(const char* sql) {
-    if (m_database == nullptr) return false;
+StoreResult CConnection::Check(const char* sql) {
+    if (m_database == nullptr) return StoreResult::kNoAccess;
     sqlite3_stmt* statement = nullptr;
     const int code = sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr);
     sqlite3_finalize(statement);
-    return Note(ToStoreResult(code)) == StoreResult::kDone;
+    return Note(ToStoreResult(code));
 }
 
 StoreResult CConnection::Execute(const char* sql) {
