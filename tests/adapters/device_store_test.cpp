@@ -219,6 +219,7 @@ TEST_F(DeviceStore, TwoProcessesThatMeetADamagedFileMoveItOnce) {
             if (child == 0) {
                 const OpenedStore opened = Open();
                 const std::u16string name(1, static_cast<char16_t>(u'a' + i));
+                if (opened.outcome == StoreOutcome::kUnreachable) _exit(2);
                 _exit(opened.store->Registry().Set(kMachine, u"K", name, {RegistryType::kBinary, "x"}) ? 0 : 1);
             }
             children.push_back(child);
