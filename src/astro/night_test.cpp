@@ -7,11 +7,16 @@
 
 namespace rlx {
 
-RowSun RowSunOf(int row, int height, double declination, double altitude) {
+SunTerms::SunTerms(double declination, double altitude)
+    : sinAltitude(std::sin(altitude * kRadiansPerDegree)),
+      sinDeclination(std::sin(declination)),
+      cosDeclination(std::cos(declination)) {}
+
+RowSun RowSunOf(int row, int height, const SunTerms& sun) {
     const int counted = row == 0 ? std::min(1, height - 1) : row;
     const double latitude = (90.0 - counted * 180.0 / height) * kRadiansPerDegree;
-    const double cosH = (std::sin(altitude * kRadiansPerDegree) - std::sin(declination) * std::sin(latitude)) /
-                        (std::cos(declination) * std::cos(latitude));
+    const double cosH =
+        (sun.sinAltitude - sun.sinDeclination * std::sin(latitude)) / (sun.cosDeclination * std::cos(latitude));
     if (cosH > 1.0) return {RowSun::Kind::kNight, 0.0};
     if (cosH < -1.0) return {RowSun::Kind::kDay, 0.0};
     return {RowSun::Kind::kRisesAndSets, std::acos(cosH) * kDegreesPerRadian / 360.0};
@@ -32,7 +37,7 @@ bool IsNight(const RowSun& row, double transitFraction, double dayFraction) {
 
 bool IsNightAt(int row, int height, double declination, double altitude, double a, double b, double c,
                double dayFraction) {
-    return IsNight(RowSunOf(row, height, declination, altitude), TransitFraction(a, b, c), dayFraction);
+    return IsNight(RowSunOf(row, height, {declination, altitude}), TransitFraction(a, b, c), dayFraction);
 }
 
 }  // namespace rlx

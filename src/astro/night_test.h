@@ -14,10 +14,19 @@ struct RowSun {
     double halfDay = 0.0;  ///< hour angle of sunrise as a fraction of a day, 0 to 0.5; only for `kRisesAndSets`
 };
 
-/// Row `row` of an equirectangular map of `height` rows, row 0 being the pole. `declination` in radians, `altitude` in
-/// degrees. At the pole itself the cosine of the latitude comes out just below zero, with pi a hair too large, and
-/// would turn the answer around: row 0 takes that of row 1 (where there is one).
-RowSun RowSunOf(int row, int height, double declination, double altitude);
+/// What all rows of a map share; computed once for an instant. `declination` in radians, `altitude` in degrees.
+struct SunTerms {
+    SunTerms(double declination, double altitude);
+
+    double sinAltitude;
+    double sinDeclination;
+    double cosDeclination;
+};
+
+/// Row `row` of an equirectangular map of `height` rows, row 0 being the pole. At the pole itself the cosine of the
+/// latitude comes out just below zero, with pi a hair too large, and would turn the answer around: row 0 takes that of
+/// row 1 (where there is one).
+RowSun RowSunOf(int row, int height, const SunTerms& sun);
 
 /// The transit of the Sun over a meridian as a fraction of the day, 0 to 1: (a + b - c) degrees brought into one turn.
 double TransitFraction(double a, double b, double c);
