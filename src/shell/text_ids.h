@@ -73,6 +73,13 @@ enum TextId : int {
     kTextUnknown = 40036,
     kTextNotAvailable = 40037,
     kTextDontAskAgain = 40038,
+    kTextStoreReadOnly = 40039,
+    kTextStoreNewer = 40041,
+    kTextStoreForeign = 40042,
+    kTextMenu = 40043,
+    kTextFolderNotReady = 40044,
+    kTextPicturesWritten = 40045,
+    kTextFolderNotMade = 40046,
 
     // Places: cities, dates, what a city's clock says beside the home clock.
     kTextCitiesFileNotFound = 40100,
@@ -337,7 +344,13 @@ enum TextId : int {
     kTextReminder4 = 41604,
     kTextMissedReminders = 41605,
 
-    // 42000: command line   43000: feed server   44000: doctor
+    // Command line.
+    kTextSettingNotWritten = 42000,
+    kTextNoSuchText = 42001,
+    kTextNoSuchCity = 42002,
+    kTextSeveralCities = 42003,
+
+    // 43000: feed server   44000: doctor
 };
 
 }  // namespace rlx

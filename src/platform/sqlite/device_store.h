@@ -7,19 +7,9 @@
 #include "platform/clock.h"
 #include "platform/object_store.h"
 #include "platform/registry.h"
+#include "platform/store_outcome.h"
 
 namespace rlx {
-
-/// How a device store came to be open. Everything but the first two is worth telling the user, once.
-enum class StoreOutcome {
-    kOpened,
-    kCreated,
-    kReplaced,     ///< the file was damaged: it was moved aside and a new store made in its place
-    kReadOnly,     ///< the store can be read, and nothing will be kept
-    kUnreachable,  ///< the file cannot be opened or made; a store in memory serves this run
-    kNewer,        ///< made by a later version of the program, left as it is; a store in memory serves this run
-    kForeign       ///< a database of another program, left as it is; a store in memory serves this run
-};
 
 /// The registry and the record databases of one user in one file. Several processes may have the same file open. Used
 /// from one thread; must outlive the record databases that were opened from it.

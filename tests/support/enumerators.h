@@ -1,7 +1,7 @@
 #pragma once
 
 #include <fstream>
-#include <regex>
+#include <sstream>
 
 #include "support/paths.h"
 
@@ -12,14 +12,17 @@ struct NumberedName {
     int number;
 };
 
-/// The enumerators of a header of src/shell that begin with `prefix`.
+/// The enumerators "kName = number," of a header of src/shell that begin with `prefix`.
 inline std::vector<NumberedName> Enumerators(const std::string& header, const std::string& prefix) {
     std::ifstream file(std::string(kTestDir) + "/../src/shell/" + header);
-    const std::regex pattern(" *(" + prefix + "\\w+) = (\\d+),.*");
     std::vector<NumberedName> found;
     for (std::string line; std::getline(file, line);) {
-        std::smatch match;
-        if (std::regex_match(line, match, pattern)) found.push_back({match[1], std::stoi(match[2])});
+        std::istringstream words(line);
+        NumberedName entry;
+        std::string equals;
+        if (words >> entry.name >> equals >> entry.number && equals == "=" && entry.name.starts_with(prefix)) {
+            found.push_back(entry);
+        }
     }
     return found;
 }

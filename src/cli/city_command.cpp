@@ -1,0 +1,83 @@
+#include <memory>
+
+#include "base/number.h"
+#include "base/text.h"
+#include "cli/commands.h"
+#include "places/city_info.h"
+#include "places/city_search.h"
+
+namespace rlx::cli {
+
+namespace {
+
+int Show(CSession& session, CAnswer& answer, const std::string& word) {
+    const auto city = FindCity(session, word);
+    if (!city) return kFailed;
+    CCityDatabase& cities = session.Cities();
+    const CitySunDetails details = SunDetailsOf(cities, session.Times(), session.Texts(), *city, session.Clock().Now());
+    const std::u16string info = CityInfoText(details, session.Texts());
+    answer.Set("cityIndex", *city);
+    answer.Set("place", ToJson(cities.GetPlace(*city)));
+    answer.Set("name", ToJson(cities.GetName(*city)));
+    answer.Set("country", ToJson(cities.GetCountry(*city)));
+    answer.Set("longitude", ToJson(cities.GetLongitude(*city)));
+    answer.Set("latitude", ToJson(cities.GetLatitude(*city)));
+    answer.Set("gmt", ToJson(cities.GetGmt(*city)));
+    answer.Set("dstRule", ToJson(cities.GetDstRule(*city)));
+    answer.Set("info", ToJson(info));
+    answer.Line(info);
+    return kDone;
+}
+
+int List(CSession& session, CAnswer& answer) {
+    CCityDatabase& cities = session.Cities();
+    Json places = Json::array();
+    const std::size_t count = cities.Count();
+    for (std::uint32_t i = 0; i < count; ++i) {
+        const std::u16string place = cities.GetPlace(i);
+        places.push_back(ToJson(place));
+        answer.Line(place);
+    }
+    answer.Set("cities", std::move(places));
+    return kDone;
+}
+
+int Find(CSession& session, CAnswer& answer, const std::string& text) {
+    CCityDatabase& cities = session.Cities();
+    Json found = Json::array();
+    std::vector<std::vector<std::u16string>> rows;
+    for (const std::uint32_t city : CCitySearch(cities).FindByBeginning(FromUtf8(text))) {
+        found.push_back({{"cityIndex", city}, {"place", ToJson(cities.GetPlace(city))}});
+        rows.push_back({FormatInteger(city), cities.GetPlace(city)});
+    }
+    answer.Set("cities", std::move(found));
+    answer.Table(rows);
+    return kDone;
+}
+
+int Rebuild(CSession& session, CAnswer& answer) {
+    CCityDatabase& cities = session.Cities();
+    const CityListState state = cities.Rebuild();
+    if (state == CityListState::kNotWritten) return session.Fail(session.Text(kTextFileNotSaved, u"rlxCities"));
+    if (state != CityListState::kReady) return kFailed;
+    answer.Set("count", cities.Count());
+    answer.Line(std::to_string(cities.Count()));
+    return kDone;
+}
+
+}  // namespace
+
+void DeclareCity(CLI::App& app, const SetAction& setAction) {
+    app.require_subcommand(1);
+    auto word = std::make_shared<std::string>();
+    CLI::App* show = DeclareSub(app, "show", "one city and its daylight saving", setAction,
+                                [word](CSession& s, CAnswer& a) { return Show(s, a, *word); });
+    show->add_option("CITY", *word, "index or beginning of a name")->required();
+    DeclareSub(app, "list", "all places in index order", setAction, List);
+    CLI::App* find = DeclareSub(app, "find", "cities whose name begins with TEXT", setAction,
+                                [word](CSession& s, CAnswer& a) { return Find(s, a, *word); });
+    find->add_option("TEXT", *word, "beginning of a name")->required();
+    DeclareSub(app, "rebuild", "build the cities database anew from \"cities.lst\"", setAction, Rebuild);
+}
+
+}  // namespace rlx::cli

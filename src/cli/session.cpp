@@ -1,0 +1,141 @@
+#include "cli/session.h"
+
+#include <cstdlib>
+
+#include "base/number.h"
+#include "base/text.h"
+#include "places/city_search.h"
+#include "platform/posix/frozen_clock.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/posix/system_clock.h"
+#include "shell/fill_text.h"
+#include "shell/program_paths.h"
+#include "shell/store_message.h"
+
+namespace rlx::cli {
+
+namespace {
+
+constexpr std::size_t kMostCitiesNamed = 10;
+
+/// The exit status of a command that could not do what it was asked.
+constexpr int kFailedStatus = 1;
+
+}  // namespace
+
+struct CSession::Parts {
+    explicit Parts(const GlobalOptions& options) : clock(systemClock, options.now, options.bias) {}
+
+    CPosixFileSystem files;
+    CSystemClock systemClock;
+    CFrozenClock clock;
+    std::optional<CApplicationFolder> folder;
+    std::unique_ptr<CDeviceStore> store;
+    std::optional<CRegistryStore> settings;
+    std::optional<ClockSettings> clockChoices;
+    std::optional<CCityDatabase> cities;
+    std::optional<CCityTimes> times;
+};
+
+CSession::CSession(GlobalOptions options)
+    : m_options(std::move(options)),
+      m_boxes(m_options.answer, m_options.json),
+      m_parts(std::make_unique<Parts>(m_options)) {}
+
+CSession::~CSession() = default;
+
+IFileSystem& CSession::Files() {
+    return m_parts->files;
+}
+
+const IClock& CSession::Clock() {
+    return m_parts->clock;
+}
+
+const CApplicationFolder& CSession::Folder() {
+    if (!m_parts->folder) {
+        const FolderSources sources = ProgramFolders(m_options.home);
+        const auto folder = PrepareApplicationFolder(m_parts->files, sources);
+        if (!folder)
+            Fail(Text(kTextFolderNotReady, FromUtf8(FindApplicationFolder(m_parts->files, sources).folder.string())));
+        m_parts->folder.emplace(m_parts->files, folder.value_or(sources.executableFolder));
+    }
+    return *m_parts->folder;
+}
+
+CDeviceStore& CSession::Store() {
+    if (!m_parts->store) {
+        const std::filesystem::path file = DeviceStoreFile(m_options.store);
+        OpenedStore opened = OpenDeviceStore(file, m_parts->clock);
+        m_parts->store = std::move(opened.store);
+        if (const auto box = StoreMessage(opened.outcome, file, opened.movedAside, m_resources)) m_boxes.Show(*box);
+    }
+    return *m_parts->store;
+}
+
+IRegistry& CSession::Registry() {
+    return Store().Registry();
+}
+
+IObjectStore& CSession::ObjectStore() {
+    return Store().Objects();
+}
+
+CRegistryStore& CSession::Settings() {
+    if (!m_parts->settings) m_parts->settings.emplace(Registry());
+    return *m_parts->settings;
+}
+
+const ClockSettings& CSession::ClockChoices() {
+    if (!m_parts->clockChoices) m_parts->clockChoices = LoadClockSettings(Settings());
+    return *m_parts->clockChoices;
+}
+
+CCityDatabase& CSession::Cities() {
+    if (!m_parts->cities) {
+        const auto file = Folder().Path(u"\\cities.lst").value_or(Folder().Root() / "cities.lst");
+        m_parts->cities.emplace(ObjectStore(), m_parts->files, m_boxes, m_resources, file);
+        m_parts->cities->EnsureCreated();
+    }
+    return *m_parts->cities;
+}
+
+CCityTimes& CSession::Times() {
+    if (!m_parts->times) m_parts->times.emplace(Cities(), m_parts->clock, m_resources, ClockChoices());
+    return *m_parts->times;
+}
+
+int CSession::Fail(const std::u16string& text) {
+    m_boxes.Show({m_resources.Text(kTextError), text, BoxIcon::kExclamation, BoxButtons::kOk});
+    return kFailedStatus;
+}
+
+std::u16string CSession::Text(int id, const std::u16string& first, const std::u16string& second) const {
+    return FillText(m_resources.Text(id), {first, second});
+}
+
+std::optional<CityIndex> FindCity(CSession& session, const std::string& word) {
+    CCityDatabase& cities = session.Cities();
+    const std::u16string text = FromUtf8(word);
+    if (const auto index = ParseWholeInteger(text, 0, 0xFFFFFFFF)) {
+        const auto city = static_cast<CityIndex>(*index);
+        if (city < cities.Count()) return city;
+        session.Fail(session.Text(kTextNoSuchCity, text));
+        return std::nullopt;
+    }
+    const std::vector<CityIndex> found = CCitySearch(cities).FindByBeginning(text);
+    if (found.size() == 1) return found.front();
+    if (found.empty()) {
+        session.Fail(session.Text(kTextNoSuchCity, text));
+        return std::nullopt;
+    }
+    std::u16string names;
+    for (std::size_t i = 0; i < found.size() && i < kMostCitiesNamed; ++i) {
+        names += u"\n" + FormatInteger(found[i]) + u" " + cities.GetPlace(found[i]);
+    }
+    session.Fail(session.Text(kTextSeveralCities, text, FormatInteger(static_cast<std::int64_t>(found.size()))) +
+                 names);
+    return std::nullopt;
+}
+
+}  // namespace rlx::cli

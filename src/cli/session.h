@@ -1,0 +1,67 @@
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "cli/console_message_boxes.h"
+#include "cli/options.h"
+#include "places/city_database.h"
+#include "places/city_times.h"
+#include "platform/clock.h"
+#include "platform/file_system.h"
+#include "platform/object_store.h"
+#include "platform/registry.h"
+#include "platform/sqlite/device_store.h"
+#include "shell/application_folder.h"
+#include "shell/clock_settings.h"
+#include "shell/registry_store.h"
+#include "shell/resources.h"
+
+namespace rlx::cli {
+
+/// Everything that a command may need, made when it is first asked for, so that a command pays only for what it uses.
+class CSession {
+public:
+    explicit CSession(GlobalOptions options);
+    ~CSession();
+
+    const GlobalOptions& Options() const { return m_options; }
+    CConsoleMessageBoxes& Boxes() { return m_boxes; }
+    const CResources& Texts() const { return m_resources; }
+
+    IFileSystem& Files();
+    const IClock& Clock();
+    const CApplicationFolder& Folder();
+    IRegistry& Registry();
+    IObjectStore& ObjectStore();
+    CRegistryStore& Settings();
+
+    /// The cities, built from "cities.lst" when the store has none yet.
+    CCityDatabase& Cities();
+    CCityTimes& Times();
+    const ClockSettings& ClockChoices();
+
+    /// Shows `text` under the title "Error!" and returns `kFailed`.
+    int Fail(const std::u16string& text);
+
+    /// The string-table text with "%1" and "%2" filled in.
+    std::u16string Text(int id, const std::u16string& first = {}, const std::u16string& second = {}) const;
+
+private:
+    struct Parts;
+
+    CDeviceStore& Store();
+
+    GlobalOptions m_options;
+    CConsoleMessageBoxes m_boxes;
+    CResources m_resources;
+    std::unique_ptr<Parts> m_parts;
+};
+
+/// The city that a word on the command line names: an index, or the beginning of a name or place, case ignored.
+/// Nothing when none or several fit; the session has then said why.
+std::optional<CityIndex> FindCity(CSession& session, const std::string& word);
+
+}  // namespace rlx::cli
