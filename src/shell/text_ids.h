@@ -312,6 +312,16 @@ enum TextId : int {
     kTextInvalidMark = 41306,
     kTextSkinTooLong = 41307,
     kTextDefaultSkin = 41308,
+    kTextSkinFileNotOpened = 41320,
+    kTextSkinSectionMissing = 41321,
+    kTextSkinKeyMissing = 41322,
+    kTextSkinNotAColour = 41323,
+    kTextSkinNoBackslash = 41324,
+    kTextSkinLeavesFolder = 41325,
+    kTextSkinFolderMissing = 41326,
+    kTextSkinFileMissing = 41327,
+    kTextSkinBadValue = 41328,
+    kTextSkinLinesMissing = 41329,
 
     // Languages.
     kTextRestartForLanguage = 41400,

@@ -1,0 +1,99 @@
+#include "astro/sun_position.h"
+
+#include <libnova/precession.h>
+#include <libnova/sidereal_time.h>
+#include <libnova/solar.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "astro/angles.h"
+
+namespace rlx {
+namespace {
+
+TEST(SunPosition, JulianDaysOfTheLiterature) {
+    const struct {
+        int year, month;
+        double day, julianDay;
+    } rows[] = {
+        {1957, 10, 4.81, 2436116.31}, {333, 1, 27.5, 1842713.0},   {2000, 1, 1.5, 2451545.0},
+        {1999, 1, 1.0, 2451179.5},    {1988, 6, 19.5, 2447332.0},  {1600, 12, 31.0, 2305812.5},
+        {837, 4, 10.3, 2026871.8},    {-1000, 7, 12.5, 1356001.0}, {-4712, 1, 1.5, 0.0},
+        {1582, 10, 4.0, 2299159.5},   {1582, 10, 15.0, 2299160.5}, {1582, 10, 14.999, 2299169.499 + 1.0},
+        {1582, 11, 1.0, 2299177.5},   {1987, 1, 27.0, 2446822.5},
+    };
+    for (const auto& row : rows)
+        EXPECT_NEAR(JulianDay(row.year, row.month, row.day), row.julianDay, 1e-6) << row.year << ' ' << row.day;
+}
+
+TEST(SunPosition, WorkedExamplesOfTheLiterature) {
+    const SunApparentPosition sun = SunApparentPositionAt(CenturiesSinceJ2000(2448908.5));  // 13 October 1992
+    EXPECT_NEAR(sun.rightAscension, 198.38083, 0.0005);
+    EXPECT_NEAR(sun.declination * kDegreesPerRadian, -7.78507, 0.0005);
+    EXPECT_NEAR(GreenwichSiderealTime(CenturiesSinceJ2000(2446895.5)), 197.693195, 0.00001);  // 10 April 1987
+}
+
+// Equinoxes and solstices of 2024 as almanacs give them, to the minute.
+TEST(SunPosition, SeasonsOf2024) {
+    const struct {
+        int month;
+        double day, hour, minute, rightAscension, declination;
+    } rows[] = {
+        {3, 20, 3, 6, 0, 0}, {6, 20, 20, 51, 90, 23.436}, {9, 22, 12, 44, 180, 0}, {12, 21, 9, 21, 270, -23.436}};
+    for (const auto& row : rows) {
+        const double day = row.day + (row.hour + row.minute / 60.0) / 24.0;
+        const SunApparentPosition sun = SunApparentPositionAt(CenturiesSinceJ2000(JulianDay(2024, row.month, day)));
+        EXPECT_NEAR(std::remainder(sun.rightAscension - row.rightAscension, 360.0), 0.0, 0.01) << row.month;
+        EXPECT_NEAR(sun.declination * kDegreesPerRadian, row.declination, 0.01) << row.month;
+    }
+}
+
+TEST(SunPosition, AgreesWithAnEphemeris) {
+    double worstPlace = 0.0;
+    double worstTime = 0.0;
+    int compared = 0;
+    for (double julianDay = 2415020.5; julianDay < 2488069.5; julianDay += 97.0) {  // 1900 to 2100
+        const double centuries = CenturiesSinceJ2000(julianDay);
+        const SunApparentPosition mine = SunApparentPositionAt(centuries);
+        ln_equ_posn atJ2000{};
+        ln_equ_posn theirs{};
+        ln_get_solar_equ_coords(julianDay, &atJ2000);  // referred to the equinox of 2000
+        ln_get_equ_prec(&atJ2000, julianDay, &theirs);
+        worstPlace = std::max({worstPlace, std::abs(std::remainder(mine.rightAscension - theirs.ra, 360.0)),
+                               std::abs(mine.declination * kDegreesPerRadian - theirs.dec)});
+        const double sidereal = ln_get_mean_sidereal_time(julianDay) * 15.0;
+        worstTime = std::max(worstTime, std::abs(std::remainder(GreenwichSiderealTime(centuries) - sidereal, 360.0)));
+        ++compared;
+    }
+    std::printf("apparent place: worst difference %.5f degrees, sidereal time %.7f degrees, over %d days\n", worstPlace,
+                worstTime, compared);
+    EXPECT_EQ(compared, 754);
+    EXPECT_LT(worstPlace, 0.02);
+    EXPECT_LT(worstTime, 0.0005);
+}
+
+// Taking turns off one at a time is what the ranges are defined by.
+double OneByOne(double value, double turn) {
+    while (value > turn)
+        value -= turn;
+    while (value < 0.0)
+        value += turn;
+    return value;
+}
+
+TEST(SunPosition, AnglesKeepTheEndsOfTheirRange) {
+    for (const double value :
+         {0.0, 360.0, 720.0, -360.0, -0.1, -1e-20, 360.1, 1080.0, -719.9999, 1234567.89, -98765.4321})
+        EXPECT_EQ(NormalizeDegrees(value), OneByOne(value, 360.0)) << value;
+    for (const double value : {0.0, 1.0, 2.0, -1.0, -0.1, 1.75, -2.75, 5.0})
+        EXPECT_EQ(NormalizeFraction(value), OneByOne(value, 1.0)) << value;
+    EXPECT_TRUE(std::isnan(NormalizeDegrees(INFINITY)));
+    EXPECT_EQ(NormalizeRadians(kFullTurn), 0.0);
+    EXPECT_EQ(NormalizeRadians(-1.0), kFullTurn - 1.0);
+    EXPECT_NEAR(NormalizeRadians(100.0 * kFullTurn + 1.0), 1.0, 1e-10);
+}
+
+}  // namespace
+}  // namespace rlx

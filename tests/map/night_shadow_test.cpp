@@ -1,0 +1,171 @@
+#include "map/night_shadow.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <random>
+#include <sstream>
+
+#include "astro/angles.h"
+#include "astro/night_test.h"
+#include "support/paths.h"
+
+namespace rlx {
+namespace {
+
+/// The definition itself: every row tested by itself.
+NightBand ScannedBand(int column, const MapGeometry& geometry, const SolarInstant& sun) {
+    NightBand band;
+    const double longitude = 180.0 - column * 360.0 / geometry.MapWidth();
+    for (int row = 0; row < geometry.height; ++row) {
+        if (!IsNightAt(row, geometry.height, sun.declination, kStandardAltitude, sun.rightAscension, longitude,
+                       sun.siderealTime, sun.dayFraction))
+            continue;
+        if (band.top < 0) band.top = row;
+        band.bottom = row;
+    }
+    return band;
+}
+
+/// True when all of `bands` are what a scan finds; says where not.
+void ExpectScanned(const std::vector<NightBand>& bands, const MapGeometry& geometry, const SolarInstant& sun) {
+    const int step = ColumnStep(sun);
+    ASSERT_EQ(bands.size(), static_cast<std::size_t>((geometry.MapWidth() + 2 + step - 1) / step));
+    for (std::size_t i = 0; i < bands.size(); ++i) {
+        const int column = static_cast<int>(i) * step;
+        ASSERT_EQ(bands[i], ScannedBand(column, geometry, sun))
+            << "column " << column << " of " << geometry.MapWidth() << 'x' << geometry.height << " at " << sun.julianDay
+            << ": " << bands[i].top << ' ' << bands[i].bottom;
+    }
+}
+
+TEST(NightBands, AreWhatAScanOfTheRowsFinds) {
+    std::mt19937 random(20240320);
+    const auto pick = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
+    int none = 0;
+    int whole = 0;
+    constexpr int kInstants = 4000;
+    for (int i = 0; i < kInstants && !testing::Test::HasFatalFailure(); ++i) {
+        // A third of the instants lie around an equinox, where bands are narrow, interior or missing.
+        const Date date = i % 3 == 0 ? Date{pick(1600, 2400), i % 2 == 0 ? 3 : 9, pick(18, 25)}
+                                     : AddDays({1900, 1, 1}, pick(0, 100000));
+        const SolarInstant sun = SolarInstantAt({date, pick(0, 23), pick(0, 59), pick(0, 59), 0});
+        const MapGeometry geometry{pick(1, 60), pick(1, i % 50 == 0 ? 2000 : 90), 0};
+        const auto bands = ComputeBands(geometry, sun);
+        ExpectScanned(bands, geometry, sun);
+        for (const NightBand& band : bands) {
+            none += band.top < 0 ? 1 : 0;
+            whole += band.top == 0 && band.bottom == geometry.height - 1 ? 1 : 0;
+        }
+    }
+    std::printf("%d columns without a night, %d in night from edge to edge\n", none, whole);
+    EXPECT_GT(none, 1000);
+}
+
+// Declinations that no date gives, the poles of the arithmetic, and transits on the ends of their range.
+TEST(NightBands, HoldAtTheEdgesOfTheArithmetic) {
+    const double dip = -kStandardAltitude;
+    for (const double declination : {0.0, dip, -dip, dip + 1e-9, dip - 1e-9, 1e-12, -1e-12, 45.0, -89.0, 90.0, 23.44}) {
+        for (const double fraction : {0.0, 0.25, 0.5, 1.0}) {
+            SolarInstant sun;
+            sun.month = 3;
+            sun.dayFraction = fraction;
+            sun.declination = declination * kRadiansPerDegree;
+            for (const MapGeometry& geometry : {MapGeometry{36, 18, 0}, {8, 216, 0}, {1, 1, 0}, {3, 2, 0}, {5, 3, 1}}) {
+                ExpectScanned(ComputeBands(geometry, sun), geometry, sun);
+            }
+        }
+    }
+    EXPECT_TRUE(ComputeBands({10, 10, 5}, {}).empty());
+    EXPECT_TRUE(ComputeBands({10, 10, 20}, {}).empty());
+    EXPECT_TRUE(ComputeBands({10, 0, 0}, {}).empty());
+}
+
+TEST(NightStrips, MoveByWholeSteps) {
+    const std::vector<NightBand> bands = {{10, 100}, {17, 98}, {-1, -1}, {5, 6}, {4, 8}};
+    const std::vector<NightBand> strips = {{10, 100}, {12, 100}, {14, 100}, {17, 98}, {11, 65}, {5, 32}, {-1, -1},
+                                           {-1, -1},  {-1, -1},  {5, 6},    {5, 6},   {5, 6},   {4, 8}};
+    EXPECT_EQ(NightStrips(bands, 3), strips);
+    EXPECT_EQ(NightStrips(bands, 1), bands);
+    EXPECT_TRUE(NightStrips({}, 3).empty());
+}
+
+/// Strip by strip, as the shadow is defined.
+CBitmap ShadedByStrips(CBitmap map, const MapGeometry& geometry, const std::vector<NightBand>& bands, int step,
+                       std::uint32_t mask) {
+    const auto strips = NightStrips(bands, step);
+    for (int c = 0; c < static_cast<int>(strips.size()); ++c) {
+        const int x = geometry.margin + c;
+        const NightBand& strip = strips[static_cast<std::size_t>(c)];
+        for (int y = strip.top; y < strip.bottom; ++y) {
+            if (x >= 0 && x < map.Width() && y >= 0 && y < map.Height()) map.Row(y)[x] &= mask;
+        }
+    }
+    return map;
+}
+
+TEST(NightShadow, RowsDarkenWhatStripsWould) {
+    std::mt19937 random(7);
+    const auto pick = [&](int low, int high) { return std::uniform_int_distribution<int>(low, high)(random); };
+    for (int i = 0; i < 500; ++i) {
+        const MapGeometry geometry{pick(1, 70), pick(1, 40), pick(0, 5)};
+        CBitmap map(geometry.width, geometry.height);
+        for (int y = 0; y < geometry.height; ++y)
+            std::generate_n(map.Row(y), geometry.width, [&] { return 0xFF000000U | random(); });
+        std::vector<NightBand> bands(static_cast<std::size_t>(pick(0, 80)));
+        for (NightBand& band : bands) {
+            const int top = pick(-1, geometry.height - 1);
+            band = {top, top < 0 ? -1 : pick(top, geometry.height + 3)};
+        }
+        const int step = i % 2 == 0 ? 3 : 1;
+        const CBitmap expected = ShadedByStrips(map, geometry, bands, step, 0xFF3F3F1FU);
+        Shade(map, geometry, bands, step, 0x1F3F3FU);
+        ASSERT_EQ(map, expected) << geometry.width << 'x' << geometry.height << '+' << geometry.margin << ' ' << i;
+    }
+}
+
+TEST(NightShadow, ColoursAreMasks) {
+    EXPECT_EQ(PixelOfColour(0x0000FF), 0xFFFF0000U);
+    EXPECT_EQ(PixelOfColour(0xFF12AB34), 0xFF34AB12U);
+    CBitmap map(4, 2, 0xFF88FF77U);
+    const std::vector<NightBand> bands = {{0, 1}, {0, 2}};
+    Shade(map, {4, 2, 1}, bands, 1, 0xFFFFFF);
+    EXPECT_EQ(map, CBitmap(4, 2, 0xFF88FF77U));
+    Shade(map, {4, 2, 1}, bands, 1, 0);
+    EXPECT_EQ(map.Row(0)[0], 0xFF88FF77U);
+    EXPECT_EQ(map.Row(0)[1], 0xFF000000U);
+    EXPECT_EQ(map.Row(1)[1], 0xFF88FF77U);
+    EXPECT_EQ(map.Row(1)[2], 0xFF000000U);
+}
+
+std::string TextArt(const CBitmap& map) {
+    std::string art;
+    for (int y = 0; y < map.Height(); ++y) {
+        for (int x = 0; x < map.Width(); ++x)
+            art += map.Row(y)[x] == 0xFF000000U ? '#' : '.';
+        art += '\n';
+    }
+    return art;
+}
+
+TEST(NightShadow, GoldenPictures) {
+    const struct {
+        const char* name;
+        DateTime universalTime;
+    } rows[] = {
+        {"june_solstice", {{2024, 6, 20}, 20, 51, 0, 0}},    {"december_solstice", {{2024, 12, 21}, 9, 21, 0, 0}},
+        {"march_equinox", {{2024, 3, 20}, 3, 6, 0, 0}},      {"september_equinox", {{2024, 9, 22}, 12, 44, 0, 0}},
+        {"northern_polar_day", {{2025, 5, 10}, 0, 0, 0, 0}}, {"southern_polar_day", {{2025, 11, 10}, 12, 0, 0, 0}},
+    };
+    for (const auto& row : rows) {
+        std::ifstream file(std::string(test::kTestDir) + "/golden/shadow/" + row.name + ".txt");
+        std::stringstream golden;
+        golden << file.rdbuf();
+        CBitmap map(76, 36, 0xFFFFFFFFU);
+        ShadeNight(map, {76, 36, 2}, SolarInstantAt(row.universalTime), 0);
+        EXPECT_EQ(std::string(row.name) + "\n" + TextArt(map), golden.str());
+    }
+}
+
+}  // namespace
+}  // namespace rlx
