@@ -6,7 +6,7 @@
 
 #include "platform/object_store.h"
 
-namespace rlx {
+namespace rlx::test {
 
 /// A record store in memory with one sort order; `refuseWrites` makes every write fail.
 class CLocalStore : public IObjectStore {
@@ -97,4 +97,4 @@ private:
     };
 };
 
-}  // namespace rlx
+}  // namespace rlx::test

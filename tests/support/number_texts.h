@@ -5,7 +5,7 @@
 #include "base/number.h"
 #include "shell/texts.h"
 
-namespace rlx {
+namespace rlx::test {
 
 /// A string table in which each text is its own number in braces, so that a test sees which texts were put together.
 /// Texts can be set where the words matter.
@@ -22,4 +22,4 @@ private:
     std::map<int, std::u16string> m_texts;
 };
 
-}  // namespace rlx
+}  // namespace rlx::test

@@ -5,7 +5,7 @@
 
 #include "platform/message_boxes.h"
 
-namespace rlx {
+namespace rlx::test {
 
 /// Keeps what was shown. Questions are answered in turn from `answers`, with no when none is left.
 class CScriptedBoxes : public IMessageBoxes {
@@ -23,4 +23,4 @@ public:
     std::vector<MessageBox> shown;
 };
 
-}  // namespace rlx
+}  // namespace rlx::test

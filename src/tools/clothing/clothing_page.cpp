@@ -21,12 +21,12 @@ constexpr std::array<SizeTableId, kAudienceCount> Only(SizeTableId id) {
 
 using enum SizeTableId;
 constexpr std::array<GarmentTables, kGarmentCount> kGarments = {{
-    {kTextClothingBras, false, Only(kBras)},
-    {kTextClothingDresses, false, Only(kDresses)},
-    {kTextClothingShirtsSweaters, true, {kMensShirts, kWomensBlouses, kChildrensClothing}},
-    {kTextClothingShoes, true, {kMensShoes, kWomensShoes, kChildrensShoes}},
-    {kTextClothingSuits, false, Only(kSuits)},
-    {kTextClothingTrousers, true, {kMensTrousers, kWomensTrousers, kChildrensTrousers}},
+    {kTextBras, false, Only(kBras)},
+    {kTextDresses, false, Only(kDresses)},
+    {kTextShirts, true, {kMensShirts, kWomensBlouses, kChildrensClothing}},
+    {kTextShoes, true, {kMensShoes, kWomensShoes, kChildrensShoes}},
+    {kTextSuits, false, Only(kSuits)},
+    {kTextTrousers, true, {kMensTrousers, kWomensTrousers, kChildrensTrousers}},
 }};
 
 const GarmentTables& TablesOf(Garment garment) {
@@ -40,7 +40,7 @@ TextId GarmentName(Garment garment) {
 }
 
 TextId AudienceName(Audience audience) {
-    constexpr std::array<TextId, kAudienceCount> kNames = {kTextAudienceMen, kTextAudienceWomen, kTextAudienceChildren};
+    constexpr std::array<TextId, kAudienceCount> kNames = {kTextMen, kTextWomen, kTextChildren};
     return kNames[static_cast<std::size_t>(audience)];
 }
 

@@ -1,5 +1,7 @@
 #include "tools/converter/conversion.h"
 
+#include <cmath>
+
 #include "base/number.h"
 
 namespace rlx {
@@ -61,7 +63,9 @@ std::optional<double> Convert(double value, const UnitTables& tables, std::size_
     return ConvertLinear(value, units.at(from).factor, units.at(to).factor);
 }
 
-std::u16string ResultText(double result) {
+std::u16string ResultText(double result, const ITexts& texts) {
+    if (std::isnan(result)) return texts.Text(kTextNotANumber);
+    if (std::isinf(result)) return (result < 0 ? u"-" : u"") + texts.Text(kTextInfinite);
     return FormatGeneral(result, kDigits);
 }
 

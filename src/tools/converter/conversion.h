@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "shell/texts.h"
 #include "tools/converter/unit_tables.h"
 
 /// The arithmetic of the converter. Pure functions, any thread.
@@ -21,7 +22,7 @@ std::optional<double> ConvertTemperature(double value, std::size_t from, std::si
 std::optional<double> Convert(double value, const UnitTables& tables, std::size_t category, std::size_t from,
                               std::size_t to);
 
-/// 15 significant digits, the shorter of fixed and exponent notation; "inf", "-inf", "nan".
-std::u16string ResultText(double result);
+/// 15 significant digits, the shorter of fixed and exponent notation; what is no finite number is told in words.
+std::u16string ResultText(double result, const ITexts& texts);
 
 }  // namespace rlx

@@ -99,7 +99,7 @@ void CConverterPage::Compute() {
 
 void CConverterPage::ShowResult(double result) {
     m_result = result;
-    m_resultText = rlx::ResultText(result);
+    m_resultText = rlx::ResultText(result, m_texts);
 }
 
 }  // namespace rlx

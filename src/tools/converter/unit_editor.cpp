@@ -39,7 +39,7 @@ bool CUnitEditor::Report(UnitChange change, std::u16string_view name) {
         case UnitChange::kExists:
             return refuse(Around(kTextUnitBefore, name, kTextAlreadyExists));
         case UnitChange::kCategoryFull:
-            return refuse(m_texts.Text(kTextUnitsFull));
+            return refuse(m_texts.Text(kTextCategoryFull));
         case UnitChange::kNotFound:
             return refuse(Around(kTextUnitBefore, name, kTextUnitNotFound));
         case UnitChange::kNotSaved:

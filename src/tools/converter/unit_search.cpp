@@ -170,7 +170,7 @@ std::u16string PairMessage(const UnitPair& pair, const ITexts& texts) {
         case PairStatus::kDifferentCategories:
             break;
     }
-    return texts.Text(kTextUnitsOfDifferentCategories) + pair.word;
+    return named(kTextUnitsOfDifferentCategories);
 }
 
 }  // namespace rlx

@@ -20,8 +20,8 @@ TextId DialingTableName(DialingTable table) {
 }
 
 std::array<TextId, kDialingColumns> DialingColumns(DialingTable table) {
-    if (table == DialingTable::kUs) return {kTextDialingCity, kTextDialingRegion, kTextDialingCode};
-    return {kTextDialingCountry, kTextDialingCode, kTextDialingGmt};
+    if (table == DialingTable::kUs) return {kTextColumnCity, kTextColumnRegion, kTextColumnCode};
+    return {kTextColumnCountry, kTextColumnCode, kTextColumnGmt};
 }
 
 std::array<int, kDialingColumns> DialingColumnWidths(DialingTable table, int fontFactor) {

@@ -18,21 +18,21 @@ TEST(Clothing, SelectionShowsTheTable) {
         std::optional<Audience> pressed;
     };
     const Step kSteps[] = {
-        {{}, {}, kTextMensShoes, kMen},
-        {{}, kChildren, kTextChildrensShoes, kChildren},
-        {{}, kWomen, kTextWomensShoes, kWomen},
-        {kBras, {}, kTextWomensBraSizes, {}},
-        {{}, kChildren, kTextWomensBraSizes, {}},
-        {kShoes, {}, kTextMensShoes, kMen},
-        {kTrousers, kWomen, kTextWomensTrousers, kWomen},
-        {{}, kChildren, kTextChildrensTrousers, kChildren},
-        {kShirtsAndSweaters, {}, kTextMensShirts, kMen},
-        {{}, kWomen, kTextWomensBlousesSweaters, kWomen},
-        {{}, kChildren, kTextChildrensClothing, kChildren},
-        {{}, kMen, kTextMensShirts, kMen},
-        {kDresses, {}, kTextWomensDresses, {}},
-        {kSuits, kWomen, kTextMensSuits, {}},
-        {kTrousers, {}, kTextMensTrousers, kMen},
+        {{}, {}, kTextSizesMensShoes, kMen},
+        {{}, kChildren, kTextSizesChildrensShoes, kChildren},
+        {{}, kWomen, kTextSizesWomensShoes, kWomen},
+        {kBras, {}, kTextSizesBras, {}},
+        {{}, kChildren, kTextSizesBras, {}},
+        {kShoes, {}, kTextSizesMensShoes, kMen},
+        {kTrousers, kWomen, kTextSizesWomensTrousers, kWomen},
+        {{}, kChildren, kTextSizesChildrensTrousers, kChildren},
+        {kShirtsAndSweaters, {}, kTextSizesMensShirts, kMen},
+        {{}, kWomen, kTextSizesBlouses, kWomen},
+        {{}, kChildren, kTextSizesChildrensClothing, kChildren},
+        {{}, kMen, kTextSizesMensShirts, kMen},
+        {kDresses, {}, kTextSizesDresses, {}},
+        {kSuits, kWomen, kTextSizesMensSuits, {}},
+        {kTrousers, {}, kTextSizesMensTrousers, kMen},
     };
     CClothingPage page;
     for (const Step& step : kSteps) {
@@ -70,7 +70,7 @@ TEST(Clothing, ColumnsOfAllCountriesCorrespond) {
         EXPECT_EQ(ColumnsOf(table), kColumns[i]) << i;
         for (const SizeLine& line : table.lines) {
             const bool spans = !line.note.empty();
-            const bool ends = table.title == kTextWomensShoes && line.country == u"Japan";  // one column shorter
+            const bool ends = table.title == kTextSizesWomensShoes && line.country == u"Japan";  // one column shorter
             const std::size_t last = kColumns[i] - (ends ? 2 : 1);
             EXPECT_EQ(line.cells[last].empty(), spans) << i << " " << ToUtf8(line.country);
         }
@@ -81,9 +81,9 @@ TEST(Clothing, ColumnsOfAllCountriesCorrespond) {
 }
 
 TEST(Clothing, GarmentsAreFoundByNumberNameAndBeginning) {
-    CNumberTexts texts;
-    texts.Set(kTextClothingShirtsSweaters, u"Shirts and Sweaters");
-    texts.Set(kTextClothingShoes, u"Shoes");
+    test::CNumberTexts texts;
+    texts.Set(kTextShirts, u"Shirts and Sweaters");
+    texts.Set(kTextShoes, u"Shoes");
     EXPECT_EQ(FindGarment(u"shoes", texts), kShoes);
     EXPECT_EQ(FindGarment(u"SHI", texts), kShirtsAndSweaters);
     EXPECT_EQ(FindGarment(u"5", texts), kTrousers);

@@ -22,9 +22,9 @@ protected:
 
     std::vector<MessageBox> Shown() { return std::exchange(m_boxes.shown, {}); }
 
-    CLocalStore m_store;
-    CNumberTexts m_texts;
-    CScriptedBoxes m_boxes;
+    test::CLocalStore m_store;
+    test::CNumberTexts m_texts;
+    test::CScriptedBoxes m_boxes;
     CUnitDatabase m_units{m_store};
     CUnitEditor m_editor{m_units, m_texts, m_boxes};
 };
@@ -75,11 +75,11 @@ TEST_F(UnitDatabaseTest, RefusalsSayWhyAndChangeNothing) {
     } const kRows[] = {
         {kWeights, u"tonNE", u"{32944}tonNE{32945}"},
         {kAreas, u"Acre ", u"{32944}Acre {32945}"},
-        {kAreas, u"", u"{40705}"},
-        {kAreas, u" \t", u"{40705}"},
-        {kTemperatures, u"Degree Newton", u"{40706}"},
-        {7, u"carat", u"{40706}"},
-        {kSpeeds, u"one too many", u"{40704}"},
+        {kAreas, u"", u"{40720}"},
+        {kAreas, u" \t", u"{40720}"},
+        {kTemperatures, u"Degree Newton", u"{40721}"},
+        {7, u"carat", u"{40721}"},
+        {kSpeeds, u"one too many", u"{40706}"},
     };
     for (const auto& [category, name, text] : kRows) {
         EXPECT_FALSE(m_editor.Add(category, name, u"2")) << ToUtf8(name);
@@ -102,7 +102,7 @@ TEST_F(UnitDatabaseTest, DeletesAfterAQuestionAndByExactName) {
 
     for (const auto* name : {u"yard", u"ARE", u"acre", u"Tonne"}) {
         EXPECT_FALSE(m_editor.Delete(kAreas, name));
-        EXPECT_EQ(Shown().at(0).text, u"{32944}" + std::u16string(name) + u"{40708}");
+        EXPECT_EQ(Shown().at(0).text, u"{32944}" + std::u16string(name) + u"{40723}");
     }
 }
 
@@ -110,14 +110,14 @@ TEST_F(UnitDatabaseTest, DeviceThatRefusesWritesLosesNothing) {
     m_store.refuseWrites = true;
     m_boxes.answers = {BoxAnswer::kYes};
     EXPECT_FALSE(m_editor.Add(kAreas, u"pitch", u"7140"));
-    EXPECT_EQ(Shown().back().text, u"{40707}");
+    EXPECT_EQ(Shown().back().text, u"{40722}");
     EXPECT_FALSE(m_editor.Delete(kAreas, u"yard"));
-    EXPECT_EQ(Shown().back().text, u"{40707}");
+    EXPECT_EQ(Shown().back().text, u"{40722}");
     EXPECT_EQ(m_units.ReadAll().size(), 350U);
 }
 
 TEST(UnitDatabase, IsSeededWholeOrNotAtAll) {
-    CLocalStore store;
+    test::CLocalStore store;
     store.writesLeft = 200;
     CUnitDatabase units(store);
     EXPECT_FALSE(units.Open());
