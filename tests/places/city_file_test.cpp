@@ -64,7 +64,7 @@ TEST(CityFile, ReadsWhatItCanOfAnyBytes) {
 }
 
 TEST(CityFile, KeepsBytesAboveAsciiAndZero) {
-    CMemoryStream file(std::string("1\nx;\xC5\0\xFF;L;1;2;3;0;4;5;6;7\n", 28));
+    CMemoryStream file(std::string("1\nx;\xC5\0\xFF;L;1;2;3;0;4;5;6;7\n", 26));
     std::u16string place;
     ReadCityFile(file, [&](const CityLine& line) {
         place = line.place;
