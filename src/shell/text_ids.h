@@ -216,6 +216,13 @@ enum TextId : int {
     kTextNotANumber = 40708,
     kTextSwapUnits = 40709,
     kTextRecentPairs = 40710,
+    kTextUnitNameEmpty = 40720,
+    kTextUnitsNotEditable = 40721,
+    kTextUnitsNotSaved = 40722,
+    kTextUnitNotFound = 40723,
+    kTextUnitAmbiguous = 40724,
+    kTextUnitNeedsCategory = 40725,
+    kTextUnitsOfDifferentCategories = 40726,
 
     // Dialing and area codes.
     kTextInternationalCodes = 40800,
@@ -276,6 +283,24 @@ enum TextId : int {
     kTextPackedCount = 41020,
     kTextTemplates = 41021,
     kTextEmptyTemplate = 41022,
+    kTextCategoryBefore = 41030,
+    kTextListBefore = 41031,
+    kTextPackingNotFound = 41032,
+    kTextPackingNotSaved = 41033,
+    kTextPackingVersionKept = 41034,
+    // Each template has a name and its items, with ";" between them.
+    kTextTemplateCityBreak = 41040,
+    kTextTemplateCityBreakItems = 41041,
+    kTextTemplateBeach = 41042,
+    kTextTemplateBeachItems = 41043,
+    kTextTemplateHiking = 41044,
+    kTextTemplateHikingItems = 41045,
+    kTextTemplateBusiness = 41046,
+    kTextTemplateBusinessItems = 41047,
+    kTextTemplateWinter = 41048,
+    kTextTemplateWinterItems = 41049,
+    kTextTemplateCamping = 41050,
+    kTextTemplateCampingItems = 41051,
 
     // Tip and tax.
     kTextBillAmount = 41100,
@@ -287,6 +312,7 @@ enum TextId : int {
     kTextSplitBetween = 41106,
     kTextEachPays = 41107,
     kTextTax = 41108,
+    kTextCannotSplit = 41110,
 
     // News and feeds.
     kTextConnectionBefore = 41200,

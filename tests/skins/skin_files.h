@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "shell/memory_files.h"
+#include "support/memory_files.h"
 #include "skins/skin_schema.h"
 
 namespace rlx::test {

@@ -1,0 +1,155 @@
+#include "app/application.h"
+
+#include <QPlainTextEdit>
+
+#include "base/text.h"
+#include "places/ui/city_chooser.h"
+#include "shell/clock_settings.h"
+#include "shell/command_ids.h"
+#include "shell/control_ids.h"
+#include "shell/fill_text.h"
+#include "shell/program_paths.h"
+#include "shell/setting_names.h"
+#include "shell/store_message.h"
+#include "uikit/qt_text.h"
+#include "uikit/template_dialog.h"
+
+namespace rlx {
+
+namespace {
+
+constexpr std::size_t kCreditsLimit = 1U << 20U;
+constexpr const char* kVersion = RLX_VERSION;
+
+}  // namespace
+
+CApplication::CApplication(const WindowOptions& options)
+    : m_options(options),
+      m_clock(m_systemClock, options.now, options.bias),
+      m_windowBoxes(m_resources),
+      m_boxes(options.quiet ? static_cast<IMessageBoxes&>(m_silentBoxes) : m_windowBoxes) {
+    OpenStore();
+    OpenFolder();
+    m_window = std::make_unique<CMainWindow>(m_clock, m_resources);
+    m_windowBoxes.SetOwner(m_window.get());
+    MakeScreens();
+    MakeCommands();
+    ApplyLook();
+    RestoreScreen();
+}
+
+CApplication::~CApplication() = default;
+
+void CApplication::OpenStore() {
+    const std::filesystem::path file = DeviceStoreFile(m_options.store);
+    OpenedStore opened = OpenDeviceStore(file, m_clock);
+    m_store = std::move(opened.store);
+    m_settings.emplace(m_store->Registry());
+    const auto box = StoreMessage(opened.outcome, file, opened.movedAside, m_resources);
+    if (box) m_boxes.Show(*box);
+}
+
+void CApplication::OpenFolder() {
+    const FolderSources sources = ProgramFolders(m_options.home);
+    const auto folder = PrepareApplicationFolder(m_files, sources);
+    if (!folder) {
+        const std::u16string name = FromUtf8(FindApplicationFolder(m_files, sources).folder.string());
+        m_boxes.Show({m_resources.Text(kTextError), FillText(m_resources.Text(kTextFolderNotReady), {name}),
+                      BoxIcon::kExclamation, BoxButtons::kOk});
+    }
+    m_folder.emplace(m_files, folder.value_or(sources.executableFolder));
+    const auto cityFile = m_folder->Path(u"\\cities.lst").value_or(m_folder->Root() / "cities.lst");
+    m_cities.emplace(m_store->Objects(), m_files, m_boxes, m_resources, cityFile);
+    m_cities->EnsureCreated();
+}
+
+void CApplication::MakeScreens() {
+    const CityChooser choose = [this](QWidget* parent, const QString& title, CityIndex current) {
+        return ChooseCity(parent, title, current);
+    };
+    m_clocksScreen = new CClocksScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, choose);
+    m_window->AddScreen(m_clocksScreen);
+    connect(m_clocksScreen, &CClocksScreen::CitiesChanged, m_window.get(), &CMainWindow::RefreshScreens);
+    connect(m_window.get(), &CMainWindow::ScreenShown, this, [this](int index) {
+        m_settings->WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kCurrentTab,
+                               static_cast<std::uint32_t>(index));
+    });
+}
+
+void CApplication::MakeCommands() {
+    m_commands.Add(kCommandHomeCity, this, [this] { m_clocksScreen->ChangeCity(0); });
+    m_commands.Add(kCommandTwelveHour, this, [this] { ToggleSetting(keys::kRoamlytix, names::kTwelveHour); })
+        ->setCheckable(true);
+    m_commands.Add(kCommandDeviceTimeZone, this, [this] { ToggleSetting(keys::kWorldClock, names::kSyncZone); })
+        ->setCheckable(true);
+    m_commands
+        .Add(kCommandFullScreen, this,
+             [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); })
+        ->setShortcut(QKeySequence::FullScreen);
+    m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });
+    m_commands.Add(kCommandAbout, this, [this] { ShowAbout(); });
+    m_commands.Add(kCommandExit, this, [this] { m_window->close(); })->setShortcut(QKeySequence::Quit);
+    if (const auto entries = m_resources.Menu(kMenuMain)) FillMenu(m_window->Menu(), *entries, m_commands);
+    for (const int command : {kCommandFullScreen, kCommandExit})
+        m_window->addAction(m_commands.Find(command));
+    connect(m_window.get(), &CMainWindow::AboutToShowMenu, this, &CApplication::UpdateChecks);
+}
+
+void CApplication::UpdateChecks() {
+    const bool twelve = m_settings->ReadDwordOr(keys::kRoamlytix, names::kTwelveHour, 0) == 1;
+    m_commands.Find(kCommandTwelveHour)->setChecked(twelve);
+    m_commands.Find(kCommandDeviceTimeZone)->setChecked(LoadClockSettings(*m_settings).syncZone != 0);
+}
+
+/// Writes the negation of the current state.
+void CApplication::ToggleSetting(std::u16string_view key, std::u16string_view name) {
+    const bool on = m_settings->ReadDwordOr(key, name, 0) != 0;
+    m_settings->WriteDword(RootOf(key), key, name, on ? 0 : 1);
+    m_window->RefreshScreens();
+}
+
+void CApplication::RestoreScreen() {
+    const std::uint32_t stored = m_settings->ReadDwordOr(keys::kRoamlytix, names::kCurrentTab, 0);
+    const bool known = stored < m_window->Screens().size();
+    m_window->ShowScreen(known ? static_cast<int>(stored) : 0);
+}
+
+void CApplication::ApplyLook() {
+    m_window->SetColours({m_look.Bar(), m_look.BarText(), m_look.Accent()});
+}
+
+std::optional<CityIndex> CApplication::ChooseCity(QWidget* parent, const QString& title, CityIndex current) {
+    const bool twelve = m_settings->ReadDwordOr(keys::kRoamlytix, names::kTwelveHour, 0) == 1;
+    CCityTimes times(*m_cities, m_clock, m_resources, LoadClockSettings(*m_settings));
+    CCityChooser chooser(*m_cities, times, m_resources, twelve ? ClockForm::kTwelve : ClockForm::kTwentyFour, title,
+                         current, parent);
+    return chooser.exec() == QDialog::Accepted ? chooser.Selected() : std::nullopt;
+}
+
+void CApplication::ShowCredits() {
+    CTemplateDialog dialog(m_resources.Dialog(kDialogCredits).value_or(DialogTemplate{}), m_window.get());
+    dialog.setObjectName("credits");
+    dialog.resize(560, 480);
+    const auto file = m_folder->Path(u"\\SOURCES.md");
+    const auto text = file ? m_files.ReadFile(*file, kCreditsLimit) : std::nullopt;
+    if (auto* field = dialog.Control<QPlainTextEdit>(kControlCreditsText)) {
+        field->setPlainText(
+            ToQString(text ? FromUtf8(*text) : FillText(m_resources.Text(kTextFileNotRead), {u"SOURCES.md"})));
+    }
+    dialog.exec();
+}
+
+void CApplication::ShowAbout() {
+    m_boxes.Show({m_resources.Text(kTextAppName), FillText(m_resources.Text(kTextVersion), {Widen(kVersion)}),
+                  BoxIcon::kInformation, BoxButtons::kOk});
+}
+
+void CApplication::Show() {
+    if (m_options.fullScreen) {
+        m_window->showFullScreen();
+    } else {
+        m_window->show();
+    }
+}
+
+}  // namespace rlx

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QApplication>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "app/main_window.h"
+#include "app/silent_message_boxes.h"
+#include "base/calendar.h"
+#include "clocks/ui/clocks_screen.h"
+#include "places/city_database.h"
+#include "platform/posix/frozen_clock.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/posix/system_clock.h"
+#include "platform/sqlite/device_store.h"
+#include "shell/application_folder.h"
+#include "shell/registry_store.h"
+#include "shell/resources.h"
+#include "uikit/look.h"
+#include "uikit/qt_message_boxes.h"
+#include "uikit/template_menu.h"
+
+namespace rlx {
+
+/// What the command line of the window says.
+struct WindowOptions {
+    std::string home;             ///< application folder; empty: by the usual rules
+    std::string store;            ///< device store; empty: by the usual rules
+    std::optional<DateTime> now;  ///< frozen device clock
+    std::optional<int> bias;      ///< standard bias of the device's zone in minutes
+    bool fullScreen = false;
+    bool quiet = false;  ///< no message boxes, for pictures
+};
+
+/// The composition root of the window: owns the adapters, makes the screens, connects the menu.
+class CApplication : public QObject {
+    Q_OBJECT
+
+public:
+    explicit CApplication(const WindowOptions& options);
+    ~CApplication() override;
+
+    /// Shows the window on the screen that was shown last.
+    void Show();
+
+    CMainWindow& Window() { return *m_window; }
+
+private:
+    void OpenStore();
+    void OpenFolder();
+    void MakeScreens();
+    void MakeCommands();
+    void RestoreScreen();
+    void ApplyLook();
+    void UpdateChecks();
+    void ToggleSetting(std::u16string_view key, std::u16string_view name);
+    void ChooseHomeCity();
+    void ShowCredits();
+    void ShowAbout();
+    std::optional<CityIndex> ChooseCity(QWidget* parent, const QString& title, CityIndex current);
+
+    WindowOptions m_options;
+    CPosixFileSystem m_files;
+    CSystemClock m_systemClock;
+    CFrozenClock m_clock;
+    CResources m_resources;
+    CQtMessageBoxes m_windowBoxes;
+    CSilentMessageBoxes m_silentBoxes;
+    IMessageBoxes& m_boxes;  ///< one of the two
+    CLook m_look;
+    std::unique_ptr<CDeviceStore> m_store;
+    std::optional<CRegistryStore> m_settings;
+    std::optional<CApplicationFolder> m_folder;
+    std::optional<CCityDatabase> m_cities;
+    CCommandTable m_commands;
+    std::unique_ptr<CMainWindow> m_window;
+    CClocksScreen* m_clocksScreen = nullptr;  ///< owned by the window
+};
+
+}  // namespace rlx

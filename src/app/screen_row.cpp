@@ -1,0 +1,83 @@
+#include "app/screen_row.h"
+
+#include <QPainter>
+
+#include "uikit/icons.h"
+
+namespace rlx {
+
+namespace {
+
+constexpr int kIconSize = 24;
+constexpr int kButtonSize = 44;
+constexpr int kLabelledWidth = 96;
+constexpr int kLabelledHeight = 60;
+
+}  // namespace
+
+CScreenRow::CScreenRow(QWidget* parent) : QWidget(parent), m_layout(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
+    setObjectName("screenRow");
+    m_layout->setContentsMargins(2, 2, 2, 2);
+    m_layout->setSpacing(0);
+    m_buttons.setExclusive(true);
+    connect(&m_buttons, &QButtonGroup::idClicked, this, &CScreenRow::Chosen);
+}
+
+void CScreenRow::Add(const QString& iconName, const QString& title) {
+    auto* button = new QToolButton(this);
+    button->setObjectName("screen_" + iconName);
+    button->setCheckable(true);
+    button->setAutoRaise(true);
+    button->setText(title);
+    button->setToolTip(title);
+    button->setAccessibleName(title);
+    button->setIconSize({kIconSize, kIconSize});
+    m_buttons.addButton(button, static_cast<int>(m_iconNames.size()));
+    m_iconNames.push_back(iconName);
+    m_layout->addWidget(button);
+}
+
+void CScreenRow::SetCurrent(int index) {
+    if (QAbstractButton* button = m_buttons.button(index)) button->setChecked(true);
+}
+
+void CScreenRow::SetColours(const QColor& ground, const QColor& text, const QColor& chosen) {
+    m_ground = ground;
+    m_text = text;
+    m_chosen = chosen;
+    PaintIcons();
+    const QString chosenGround =
+        QStringLiteral("rgba(%1,%2,%3,48)").arg(chosen.red()).arg(chosen.green()).arg(chosen.blue());
+    setStyleSheet(
+        QStringLiteral("QToolButton { border: none; border-radius: 10px; color: %1; font-size: 11px; padding: 2px; }"
+                       "QToolButton:checked { background: %2; }"
+                       "QToolButton:focus { border: 2px solid %3; }")
+            .arg(text.name(), chosenGround, chosen.name()));
+    update();
+}
+
+void CScreenRow::SetForm(Qt::Orientation orientation, bool labels) {
+    const bool lying = orientation == Qt::Horizontal;
+    m_layout->setDirection(lying ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_layout->setAlignment(lying ? Qt::Alignment() : Qt::AlignTop);
+    for (QAbstractButton* each : m_buttons.buttons()) {
+        auto* button = qobject_cast<QToolButton*>(each);
+        button->setToolButtonStyle(labels ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+        button->setSizePolicy(lying ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
+        button->setMinimumSize(
+            lying ? QSize(0, labels ? kLabelledHeight : kButtonSize - 4)
+                  : QSize(labels ? kLabelledWidth : kButtonSize, labels ? kLabelledHeight : kButtonSize - 4));
+    }
+}
+
+void CScreenRow::PaintIcons() {
+    for (std::size_t i = 0; i < m_iconNames.size(); ++i) {
+        m_buttons.button(static_cast<int>(i))->setIcon(TintedIcon(m_iconNames[i], m_text));
+    }
+}
+
+void CScreenRow::paintEvent(QPaintEvent* /*event*/) {
+    QPainter(this).fillRect(rect(), m_ground);
+}
+
+}  // namespace rlx

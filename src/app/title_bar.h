@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QColor>
+#include <QLabel>
+#include <QMenu>
+#include <QToolButton>
+#include <QWidget>
+
+namespace rlx {
+
+/// The strip above a screen: menu button, the screen's name, the sign that there is news.
+class CTitleBar : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CTitleBar(QWidget* parent = nullptr);
+
+    void SetTitle(const QString& title);
+    void SetMenu(QMenu* menu, const QString& name);
+
+    /// The button of the News page; `fresh` marks it.
+    void SetNews(bool fresh, const QString& name);
+    void SetColours(const QColor& ground, const QColor& text, const QColor& mark);
+
+signals:
+    void NewsChosen();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void PaintIcons();
+
+    QToolButton* m_menu;
+    QLabel* m_title;
+    QToolButton* m_news;
+    bool m_fresh = false;
+    QColor m_ground;
+    QColor m_text;
+    QColor m_mark;
+};
+
+}  // namespace rlx

@@ -1,0 +1,115 @@
+#include "clocks/ui/clock_painter.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace rlx {
+
+namespace {
+
+constexpr QRgb kDayCentre = 0xFFFFFFFF;
+constexpr QRgb kDayEdge = 0xFFE3EDF7;
+constexpr QRgb kNightCentre = 0xFF2B3A5C;
+constexpr QRgb kNightEdge = 0xFF141C33;
+constexpr QRgb kNightHands = 0xFFE9EFFA;
+constexpr QRgb kRim = 0x3C0A1A33;
+
+QPointF OnCircle(const QPointF& centre, double radius, double degrees) {
+    const double angle = degrees * M_PI / 180.0;
+    return {centre.x() + radius * std::sin(angle), centre.y() - radius * std::cos(angle)};
+}
+
+void PaintGround(QPainter& painter, const QPointF& centre, double radius, bool day) {
+    QRadialGradient ground(centre, radius, centre - QPointF(radius * 0.25, radius * 0.35));
+    ground.setColorAt(0, QColor::fromRgba(day ? kDayCentre : kNightCentre));
+    ground.setColorAt(1, QColor::fromRgba(day ? kDayEdge : kNightEdge));
+    painter.setBrush(ground);
+    painter.setPen(QPen(QColor::fromRgba(kRim), std::max(1.0, radius * 0.03)));
+    painter.drawEllipse(centre, radius, radius);
+}
+
+void PaintHand(QPainter& painter, const QPointF& centre, double degrees, double from, double to, double width,
+               const QColor& colour) {
+    painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(OnCircle(centre, from, degrees), OnCircle(centre, to, degrees));
+}
+
+/// The largest font of at most `height` pixels in which `text` is no wider than `width`.
+QFont FittingFont(const QString& text, double width, double height, bool bold) {
+    QFont font("Arial");
+    font.setStyleHint(QFont::SansSerif);
+    font.setBold(bold);
+    font.setPixelSize(std::max(7, static_cast<int>(height * 0.82)));
+    const double natural = QFontMetricsF(font).horizontalAdvance(text);
+    if (natural > width) font.setPixelSize(std::max(7, static_cast<int>(font.pixelSize() * width / natural)));
+    return font;
+}
+
+void PaintLine(QPainter& painter, const QRectF& line, const QString& text, const QColor& colour, bool bold,
+               Qt::Alignment alignment) {
+    if (text.isEmpty()) return;
+    const QFont font = FittingFont(text, line.width(), line.height(), bold);
+    painter.setFont(font);
+    painter.setPen(colour);
+    const QString shown = QFontMetricsF(font).elidedText(text, Qt::ElideRight, line.width() + 1);
+    painter.drawText(line, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
+}
+
+/// Time and AM/PM side by side, the latter smaller, on one base line.
+void PaintTime(QPainter& painter, const QRectF& line, const ClockTexts& texts, const QColor& colour,
+               Qt::Alignment alignment) {
+    if (texts.half.isEmpty()) {
+        PaintLine(painter, line, texts.time, colour, true, alignment);
+        return;
+    }
+    constexpr double kHalfScale = 0.55;
+    QFont large = FittingFont(texts.time + texts.half, line.width(), line.height(), true);
+    QFont small = large;
+    small.setPixelSize(std::max(7, static_cast<int>(large.pixelSize() * kHalfScale)));
+    const double timeWidth = QFontMetricsF(large).horizontalAdvance(texts.time);
+    const double width = timeWidth + QFontMetricsF(small).horizontalAdvance(texts.half);
+    const double left = alignment & Qt::AlignHCenter ? line.left() + (line.width() - width) / 2 : line.left();
+    const double base = line.center().y() + QFontMetricsF(large).capHeight() / 2;
+    painter.setPen(colour);
+    painter.setFont(large);
+    painter.drawText(QPointF(left, base), texts.time);
+    painter.setFont(small);
+    painter.drawText(QPointF(left + timeWidth, base), texts.half);
+}
+
+}  // namespace
+
+void PaintClockFace(QPainter& painter, const QRectF& area, const ClockHands& hands, bool day,
+                    const ClockColours& colours) {
+    const double radius = std::min(area.width(), area.height()) / 2 - 1;
+    if (radius < 4) return;
+    const QPointF centre = area.center();
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintGround(painter, centre, radius, day);
+    const QColor ink = day ? colours.hands : QColor::fromRgba(kNightHands);
+    for (const ClockMark& mark : MarksFor(radius)) {
+        PaintHand(painter, centre, mark.angle, mark.from * radius, mark.to * radius, std::max(0.8, mark.width * radius),
+                  ink);
+    }
+    PaintHand(painter, centre, hands.hour, 0, radius * 0.5, std::max(1.6, radius * 0.075), ink);
+    PaintHand(painter, centre, hands.minute, 0, radius * 0.76, std::max(1.2, radius * 0.05), ink);
+    PaintHand(painter, centre, hands.second, -radius * 0.16, radius * 0.82, std::max(0.8, radius * 0.018),
+              colours.second);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours.second);
+    painter.drawEllipse(centre, std::max(1.5, radius * 0.05), std::max(1.5, radius * 0.05));
+}
+
+void PaintClockTexts(QPainter& painter, const QRectF& area, const ClockTexts& texts, const ClockColours& colours,
+                     Qt::Alignment alignment) {
+    const double unit = area.height() / 10.0;
+    const auto line = [&area, unit](double from, double rows) {
+        return QRectF(area.left(), area.top() + from * unit, area.width(), rows * unit);
+    };
+    PaintLine(painter, line(0.2, 2.9), texts.city, colours.city, true, alignment);
+    PaintTime(painter, line(3.1, 3.9), texts, colours.digital, alignment);
+    const QString date = texts.note.isEmpty() ? texts.date : texts.date + QStringLiteral(" \u00B7 ") + texts.note;
+    PaintLine(painter, line(7.2, 2.5), date, colours.date, false, alignment);
+}
+
+}  // namespace rlx

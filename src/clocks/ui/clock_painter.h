@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPainter>
+#include <QRectF>
+#include <QString>
+
+#include "clocks/clock_face.h"
+#include "uikit/look.h"
+
+namespace rlx {
+
+/// What one clock shows, as texts.
+struct ClockTexts {
+    QString city;
+    QString time;
+    QString half;  ///< AM or PM, or empty
+    QString date;
+    QString note;  ///< day difference to home, or empty
+};
+
+/// Draws an analog face, day or night told by its ground, into the largest circle within `area`.
+void PaintClockFace(QPainter& painter, const QRectF& area, const ClockHands& hands, bool day,
+                    const ClockColours& colours);
+
+/// Draws the texts of a clock into `area`, each line as large as fits. `alignment` is left or centred.
+void PaintClockTexts(QPainter& painter, const QRectF& area, const ClockTexts& texts, const ClockColours& colours,
+                     Qt::Alignment alignment);
+
+}  // namespace rlx

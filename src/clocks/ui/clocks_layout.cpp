@@ -1,0 +1,81 @@
+#include "clocks/ui/clocks_layout.h"
+
+#include <algorithm>
+
+namespace rlx {
+
+namespace {
+
+/// Splits off part of a rectangle, from the top or from the left.
+QRectF TakeTop(QRectF& rest, double height) {
+    const QRectF top(rest.left(), rest.top(), rest.width(), height);
+    rest.setTop(rest.top() + height);
+    return top;
+}
+
+QRectF TakeLeft(QRectF& rest, double width) {
+    const QRectF left(rest.left(), rest.top(), width, rest.height());
+    rest.setLeft(rest.left() + width);
+    return left;
+}
+
+/// Face above the texts in an upright card, else beside them.
+ClockCell CellOf(const QRectF& card, double padding) {
+    ClockCell cell;
+    cell.card = card;
+    QRectF inner = card.adjusted(padding, padding, -padding, -padding);
+    cell.centred = inner.height() > inner.width() * 0.8;
+    if (cell.centred) {
+        const double face = std::min(inner.width(), inner.height() * 0.64);
+        cell.face = TakeTop(inner, face);
+        inner.setTop(inner.top() + padding * 0.6);
+        const double height = std::min(inner.height(), inner.width() * 0.46);
+        inner.adjust(0, (inner.height() - height) / 2, 0, -(inner.height() - height) / 2);
+    } else {
+        const double face = std::min(inner.height(), inner.width() * 0.42);
+        cell.face = TakeLeft(inner, face);
+        inner.setLeft(inner.left() + padding);
+        const double height = std::min(inner.height(), inner.width() * 0.52);
+        inner.adjust(0, (inner.height() - height) / 2, 0, -(inner.height() - height) / 2);
+    }
+    cell.texts = inner;
+    return cell;
+}
+
+/// Cells of `columns` by `rows`, row by row, a gap between them.
+std::array<QRectF, 4> Grid(const QRectF& area, int columns, int rows, double gap) {
+    const double width = (area.width() - gap * (columns - 1)) / columns;
+    const double height = (area.height() - gap * (rows - 1)) / rows;
+    std::array<QRectF, 4> cells;
+    for (int i = 0; i < 4; ++i) {
+        const int column = i % columns;
+        const int row = i / columns;
+        cells[static_cast<std::size_t>(i)] =
+            QRectF(area.left() + column * (width + gap), area.top() + row * (height + gap), width, height);
+    }
+    return cells;
+}
+
+}  // namespace
+
+ClocksLayout LayOutClocks(const QRectF& area) {
+    const double shorter = std::min(area.width(), area.height());
+    const double gap = std::clamp(shorter * 0.022, 4.0, 16.0);
+    QRectF rest = area.adjusted(gap, gap, -gap, -gap);
+    const bool upright = area.height() >= area.width();
+    const QRectF home = upright ? TakeTop(rest, rest.height() * 0.46) : TakeLeft(rest, rest.width() * 0.44);
+    if (upright) {
+        rest.setTop(rest.top() + gap);
+    } else {
+        rest.setLeft(rest.left() + gap);
+    }
+    const bool column = !upright && rest.width() < rest.height() * 1.05;
+    const auto cells = column ? Grid(rest, 1, 4, gap) : Grid(rest, 2, 2, gap);
+    ClocksLayout layout;
+    layout[0] = CellOf(home, gap * 1.4);
+    for (std::size_t i = 0; i < cells.size(); ++i)
+        layout[i + 1] = CellOf(cells[i], gap);
+    return layout;
+}
+
+}  // namespace rlx

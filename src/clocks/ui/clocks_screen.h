@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QMenu>
+#include <QTimer>
+#include <array>
+#include <functional>
+#include <optional>
+
+#include "clocks/ui/clock_painter.h"
+#include "clocks/ui/clocks_layout.h"
+#include "places/city_info.h"
+#include "places/city_times.h"
+#include "platform/message_boxes.h"
+#include "shell/clock_text.h"
+#include "shell/registry_store.h"
+#include "shell/resources.h"
+#include "uikit/look.h"
+#include "uikit/screen.h"
+#include "uikit/template_menu.h"
+
+namespace rlx {
+
+/// Lets the user choose a city; nothing when the choice was called off. The arguments are the window to stand in front
+/// of, the title, and the city chosen so far.
+using CityChooser = std::function<std::optional<CityIndex>(QWidget*, const QString&, CityIndex)>;
+
+/// The home clock and four more. A tap tells about the city, a long tap or the menu key offers what can be done with
+/// the clock; the arrow keys move between the clocks. All five are painted by this one widget.
+class CClocksScreen : public CScreen {
+    Q_OBJECT
+
+public:
+    /// All references must outlive the screen.
+    CClocksScreen(CCityDatabase& cities, const IClock& clock, CRegistryStore& settings, const CResources& resources,
+                  IMessageBoxes& boxes, const CLook& look, CityChooser chooseCity);
+
+    int TitleText() const override { return kTextScreenClocks; }
+    QString IconName() const override { return QStringLiteral("clocks"); }
+    void Refresh() override;
+    void Tick() override;
+    void Entered() override;
+
+    /// Called when the user wants to see more of a city's sun after its information box.
+    void SetShowSunDetails(std::function<void(const CitySunDetails&)> show) { m_showSunDetails = std::move(show); }
+
+    /// Shows the information box of one of the five clocks.
+    void ShowInformation(std::size_t clock);
+
+    /// Lets the user put another city on one of the five clocks.
+    void ChangeCity(std::size_t clock);
+
+signals:
+    /// Another city was chosen for one of the clocks.
+    void CitiesChanged();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void MakeMenu();
+    void PaintClock(QPainter& painter, std::size_t clock) const;
+    ClockTexts TextsOf(std::size_t clock) const;
+    ClockColours ColoursOf(std::size_t clock) const;
+    std::optional<std::size_t> ClockAt(const QPointF& point) const;
+    void OpenMenu(std::size_t clock, const QPoint& globalPoint);
+    void UseAsHome(std::size_t clock);
+    void StoreCity(std::size_t clock, CityIndex city);
+    void MoveFocus(int columns, int rows);
+    void NameFocusedClock();
+
+    CCityDatabase& m_cities;
+    const IClock& m_clock;
+    CRegistryStore& m_settings;
+    const CResources& m_resources;
+    IMessageBoxes& m_boxes;
+    const CLook& m_look;
+    CityChooser m_chooseCity;
+    std::function<void(const CitySunDetails&)> m_showSunDetails;
+
+    std::optional<CCityTimes> m_times;  ///< made anew when the settings change
+    std::array<ClockReading, 5> m_clocks;
+    ClocksLayout m_layout;
+    ClockForm m_form = ClockForm::kTwentyFour;
+    CCommandTable m_commands;
+    QMenu m_menu;
+    QTimer m_longTap;
+    std::size_t m_focused = 0;
+    bool m_showFocus = false;  ///< only for those who move by keyboard
+    std::optional<std::size_t> m_pressed;
+    QPoint m_pressedAt;
+};
+
+}  // namespace rlx

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeView>
+#include <optional>
+
+#include "places/city_search.h"
+#include "places/ui/city_list_model.h"
+#include "shell/resources.h"
+#include "uikit/template_dialog.h"
+
+namespace rlx {
+
+/// The dialog in which a city is chosen: a field to type in and a list that follows it at once. References must outlive
+/// it. User-interface thread.
+class CCityChooser : public CTemplateDialog {
+    Q_OBJECT
+
+public:
+    /// `current` is selected at first.
+    CCityChooser(CCityDatabase& cities, CCityTimes& times, const CResources& resources, ClockForm form,
+                 const QString& title, CityIndex current, QWidget* parent = nullptr);
+
+    /// The city selected; nothing when none is.
+    std::optional<CityIndex> Selected() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void SetUpList();
+    void Search();
+    void Select(int row);
+
+    CCitySearch m_search;
+    CCityListModel m_model;
+    QLineEdit* m_field;
+    QTreeView* m_list;
+    QLabel* m_nothing;
+    const CityIndex m_current;
+};
+
+}  // namespace rlx

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/message_boxes.h"
+#include "shell/texts.h"
+#include "tools/converter/unit_tables.h"
+
+namespace rlx {
+
+/// Two units that were converted lately.
+struct RecentPair {
+    std::size_t category = 0;
+    std::u16string from;
+    std::u16string to;
+
+    friend bool operator==(const RecentPair&, const RecentPair&) = default;
+};
+
+/// What the converter page holds and computes: category, two units, value and result. The result is computed anew after
+/// each change. Does not own texts and boxes; user-interface thread.
+class CConverterPage {
+public:
+    static constexpr std::size_t kMaxRecent = 8;
+
+    CConverterPage(const ITexts& texts, IMessageBoxes& boxes);
+
+    /// Takes the units as they now are. The chosen units stay chosen by name where they are still there.
+    void SetTables(UnitTables tables);
+
+    /// Selects the first unit on both sides.
+    void SelectCategory(std::size_t category);
+    void SelectFrom(std::size_t index);
+    void SelectTo(std::size_t index);
+    void SetValue(std::u16string_view text);
+
+    /// "From" becomes "to".
+    void Swap();
+
+    /// Value and result become "0".
+    void Reset();
+
+    /// Notes the pair as used, newest first; called when a conversion is finished rather than at each key.
+    void Remember();
+    void Recall(const RecentPair& pair);
+
+    std::size_t Category() const { return m_category; }
+    const std::vector<Unit>& Units() const { return m_tables[m_category]; }
+    std::size_t From() const { return m_from; }
+    std::size_t To() const { return m_to; }
+    const std::u16string& ValueText() const { return m_value; }
+    double Value() const;
+    double Result() const { return m_result; }
+    const std::u16string& ResultText() const { return m_resultText; }
+    const std::vector<RecentPair>& Recent() const { return m_recent; }
+
+private:
+    void Compute();
+    void ShowResult(double result);
+
+    const ITexts& m_texts;
+    IMessageBoxes& m_boxes;
+    UnitTables m_tables;
+    std::size_t m_category = 0;
+    std::size_t m_from = 0;
+    std::size_t m_to = 0;
+    std::u16string m_value = u"0";
+    double m_result = 0;
+    std::u16string m_resultText = u"0";
+    std::vector<RecentPair> m_recent;
+};
+
+}  // namespace rlx

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QWidget>
+
+namespace rlx {
+
+/// One screen of the row. The main window shows one at a time, gives it the whole content area, and passes on what
+/// concerns it. A screen asks for the ports that it needs in its own constructor.
+class CScreen : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit CScreen(QWidget* parent = nullptr) : QWidget(parent) {}
+
+    /// Number of the text that names the screen.
+    virtual int TitleText() const = 0;
+
+    /// File name of the icon in the icons folder, without its extension.
+    virtual QString IconName() const = 0;
+
+    /// Settings, cities, the skin or the language in force have changed: read again what is shown.
+    virtual void Refresh() {}
+
+    /// Comes once a second while the screen is seen.
+    virtual void Tick() {}
+
+    /// The screen's own commands, shown at the top of the menu. The actions belong to the screen.
+    virtual QList<QAction*> Commands() { return {}; }
+
+    /// Asked before another screen is shown or the window closes; false keeps this one.
+    virtual bool MayLeave() { return true; }
+
+    /// Asked when the window goes "back" (Escape); true when the screen had somewhere to go back to.
+    virtual bool GoBack() { return false; }
+
+    /// Called once the screen is shown for the first time or again.
+    virtual void Entered() {}
+};
+
+}  // namespace rlx

@@ -1,0 +1,168 @@
+#include "uikit/template_dialog.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QTreeView>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <vector>
+
+#include "shell/control_ids.h"
+#include "uikit/qt_text.h"
+
+namespace rlx {
+
+namespace {
+
+/// Below this width or height a dialog takes the whole screen of its window.
+constexpr int kSmallScreen = 400;
+
+/// Controls that share a row of the template, in reading order.
+using Row = std::vector<const DialogControl*>;
+
+std::vector<Row> RowsOf(const DialogTemplate& dialog) {
+    std::vector<const DialogControl*> ordered;
+    for (const DialogControl& control : dialog.controls) {
+        if (control.kind != ControlKind::kGroupBox && control.visible) ordered.push_back(&control);
+    }
+    std::stable_sort(ordered.begin(), ordered.end(), [](const auto* a, const auto* b) { return a->y < b->y; });
+    std::vector<Row> rows;
+    int bottom = 0;
+    for (const DialogControl* control : ordered) {
+        const int middle = control->y + control->height / 2;
+        if (rows.empty() || middle >= bottom) {
+            rows.emplace_back();
+            bottom = control->y + control->height;
+        }
+        rows.back().push_back(control);
+    }
+    for (Row& row : rows) {
+        std::stable_sort(row.begin(), row.end(), [](const auto* a, const auto* b) { return a->x < b->x; });
+    }
+    return rows;
+}
+
+bool TakesRoom(const DialogControl& control) {
+    return control.kind == ControlKind::kListBox || control.kind == ControlKind::kListView ||
+           (control.kind == ControlKind::kEdit && control.multiline);
+}
+
+QWidget* MakeEdit(const DialogControl& control) {
+    if (control.multiline) {
+        auto* edit = new QPlainTextEdit(ToQString(control.text));
+        edit->setReadOnly(control.readOnly);
+        edit->setTabChangesFocus(true);
+        return edit;
+    }
+    auto* edit = new QLineEdit(ToQString(control.text));
+    edit->setReadOnly(control.readOnly);
+    edit->setClearButtonEnabled(!control.readOnly);
+    if (control.password) edit->setEchoMode(QLineEdit::Password);
+    return edit;
+}
+
+QWidget* MakeLabel(const DialogControl& control) {
+    auto* label = new QLabel(ToQString(control.text));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    if (control.centred) label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+    if (control.right) label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return label;
+}
+
+QWidget* MakeListView() {
+    auto* view = new QTreeView;
+    view->setRootIsDecorated(false);
+    view->setUniformRowHeights(true);
+    view->setAllColumnsShowFocus(true);
+    return view;
+}
+
+}  // namespace
+
+CTemplateDialog::CTemplateDialog(const DialogTemplate& dialog, QWidget* parent) : QDialog(parent) {
+    setWindowTitle(ToQString(dialog.title));
+    LayOut(dialog);
+    ConnectButtons();
+}
+
+QWidget* CTemplateDialog::MakeControl(const DialogControl& control) {
+    const QString text = ToQString(control.text);
+    switch (control.kind) {
+        case ControlKind::kPushButton: {
+            auto* button = new QPushButton(text);
+            button->setDefault(control.defaultButton);
+            button->setAutoDefault(control.defaultButton);
+            return button;
+        }
+        case ControlKind::kCheckBox:
+            return new QCheckBox(text);
+        case ControlKind::kRadioButton:
+            return new QRadioButton(text);
+        case ControlKind::kEdit:
+            return MakeEdit(control);
+        case ControlKind::kListBox:
+            return new QListWidget;
+        case ControlKind::kListView:
+            return MakeListView();
+        case ControlKind::kDropDownList:
+            return new QComboBox;
+        case ControlKind::kComboBox: {
+            auto* combo = new QComboBox;
+            combo->setEditable(true);
+            return combo;
+        }
+        default:
+            return MakeLabel(control);
+    }
+}
+
+void CTemplateDialog::LayOut(const DialogTemplate& dialog) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(8, 8, 8, 8);
+    column->setSpacing(6);
+    for (const Row& row : RowsOf(dialog)) {
+        auto* line = new QHBoxLayout;
+        line->setSpacing(6);
+        bool stretches = false;
+        QLabel* label = nullptr;
+        for (const DialogControl* control : row) {
+            QWidget* widget = MakeControl(*control);
+            widget->setObjectName(QStringLiteral("control_%1").arg(control->id));
+            widget->setEnabled(control->enabled);
+            // A label names the field behind it, on screen and for screen readers.
+            if (label != nullptr && label->buddy() == nullptr && control->kind != ControlKind::kStatic)
+                label->setBuddy(widget);
+            label = control->kind == ControlKind::kStatic ? qobject_cast<QLabel*>(widget) : label;
+            stretches = stretches || TakesRoom(*control);
+            if (control->id > 0) m_controls[control->id] = widget;
+            line->addWidget(widget, control->width);
+        }
+        column->addLayout(line, stretches ? 1 : 0);
+    }
+}
+
+void CTemplateDialog::ConnectButtons() {
+    if (auto* ok = Control<QPushButton>(kControlOk)) connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    if (auto* cancel = Control<QPushButton>(kControlCancel))
+        connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void CTemplateDialog::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    const QWidget* window = parentWidget() != nullptr ? parentWidget()->window() : nullptr;
+    if (window != nullptr && (window->width() < kSmallScreen || window->height() < kSmallScreen)) {
+        setGeometry(window->geometry());
+    }
+}
+
+}  // namespace rlx

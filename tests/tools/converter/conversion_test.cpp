@@ -1,0 +1,177 @@
+#include "tools/converter/conversion.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "base/number.h"
+#include "base/text.h"
+#include "support/number_texts.h"
+#include "support/scripted_boxes.h"
+#include "tools/converter/converter_page.h"
+#include "tools/converter/unit_search.h"
+
+namespace rlx {
+namespace {
+
+UnitTables SeedTables() {
+    std::vector<UnitRecord> rows;
+    for (std::size_t category = 0; category < kCategoryCount; ++category) {
+        for (const SeedUnit& unit : SeedUnits(category))
+            rows.push_back({CategoryCode(category), std::u16string(unit.name), std::u16string(unit.factor)});
+    }
+    return TablesFromRows(rows);
+}
+
+TEST(Conversion, GivesTheResultFieldAsShown) {
+    struct {
+        std::u16string value, from, to, result;
+    } const kRows[] = {
+        {u"1", u"Short ton", u"kg - Kilogram", u"907.18474"},
+        {u"1", u"Ton [short, US]", u"kg - Kilogram", u"907"},
+        {u"1", u"Cup [US]", u"Liter", u"0"},
+        {u"3", u"Liter", u"Cup [US]", u"{40707}"},
+        {u"-3", u"Liter", u"Cup [US]", u"-{40707}"},
+        {u"0", u"Cup [US]", u"bucket [US]", u"{40708}"},
+        {u"1", u"Statue Mile (Mile)", u"m - Meter", u"1609"},
+        {u"1", u"Mile", u"m - Meter", u"1609.344"},
+        {u"2", u"square yard [survey]", u"m² - square meter", u"1.672261416"},
+        {u"1", u"km - Kilometer", u"Microinch", u"39370078740.1575"},
+        {u"1", u"acre ", u"square angstrom", u"4.0468564224e+23"},
+        {u"1e400", u"acre ", u"hectare", u"{40707}"},
+        {u" 12,5 km", u"Hectogram", u"Megagram", u"0.0012"},
+        {u"ten", u"Feet", u"Inch", u"0"},
+        {u"100", u"°C - Degree Celsius", u"°F - Degree Fahrenheit", u"212"},
+        {u"100", u"°C - Degree Celsius", u"Degree Reaumur", u"80"},
+        {u"100", u"°C - Degree Celsius", u"Degree Rankine", u"671.67"},
+        {u"-273.15", u"°C - Degree Celsius", u"K - Kelvin", u"0"},
+        {u"-273.15", u"°C - Degree Celsius", u"°F - Degree Fahrenheit", u"-459.67"},
+        {u"300", u"K - Kelvin", u"°C - Degree Celsius", u"26.85"},
+        {u"80", u"Degree Reaumur", u"°C - Degree Celsius", u"100"},
+        {u"491.67", u"Degree Rankine", u"K - Kelvin", u"273.15"},
+    };
+    const test::CNumberTexts texts;
+    const UnitTables tables = SeedTables();
+    for (const auto& row : kRows) {
+        const UnitPair pair = FindUnitPair(tables, row.from, row.to, std::nullopt);
+        ASSERT_EQ(pair.status, PairStatus::kFound) << ToUtf8(row.from) << " " << ToUtf8(row.to);
+        const auto result = Convert(ParseNumber(row.value), tables, pair.category, pair.from, pair.to);
+        ASSERT_TRUE(result) << ToUtf8(row.from);
+        EXPECT_EQ(ResultText(*result, texts), row.result) << ToUtf8(row.value + u" " + row.from + u" " + row.to);
+    }
+}
+
+TEST(UnitSearch, ResolvesWholeNamesAndBeginnings) {
+    using enum PairStatus;
+    struct {
+        std::u16string from, to;
+        std::optional<std::size_t> category;
+        PairStatus status;
+        std::u16string found;  ///< the names found, or the wrong word
+    } const kRows[] = {
+        {u"inch", u"cm", {}, kFound, u"Inch|cm - Centimeter"},
+        {u"  ACRE", u"hect", 0, kFound, u"acre |hectare"},
+        {u"yard", u"tatami", {}, kFound, u"yard|tatami"},  // in these letters only an area
+        {u"yard", u"Mile", 1, kFound, u"Yard|Mile"},
+        {u"°f", u"°c", {}, kFound, u"°F - Degree Fahrenheit|°C - Degree Celsius"},
+        {u"Yard", u"Feet", {}, kNeedsCategory, u"Yard"},
+        {u"Grain", u"dram", {}, kNeedsCategory, u"dram"},
+        {u"Dram", u"Grain", 6, kFound, u"Dram|Grain"},
+        {u"cubic k", u"cubic f", {}, kFound, u"Cubic kilometer|Cubic foot"},
+        {u"square mile", u"square k", 0, kNotFound, u"square k"},
+        {u"Pound", u"ton", {}, kAmbiguous, u"ton"},
+        {u"gall", u"cubic y", {}, kAmbiguous, u"gall"},
+        {u"parsec", u"Mile", {}, kNotFound, u"parsec"},
+        {u"Mile", u"parsec", {}, kNotFound, u"parsec"},
+        {u"", u"Mile", {}, kNotFound, u""},
+        {u"Mile", u"Tonne", {}, kDifferentCategories, u"Tonne"},
+        {u"Mile", u"kilopond/square m", {}, kDifferentCategories, u"kilopond/square m"},
+        {u"zettap", u"jer", {}, kDifferentCategories, u"jer"},
+    };
+    const UnitTables tables = SeedTables();
+    for (const auto& row : kRows) {
+        const UnitPair pair = FindUnitPair(tables, row.from, row.to, row.category);
+        EXPECT_EQ(pair.status, row.status) << ToUtf8(row.from + u" " + row.to);
+        const auto& units = tables[pair.category];
+        EXPECT_EQ(pair.status == kFound ? units[pair.from].name + u"|" + units[pair.to].name : pair.word, row.found);
+    }
+    test::CNumberTexts texts;
+    EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Dram", u"Pony", {}), texts),
+              u"{32944}Dram{40725}5 {32921}; 6 {32922}");
+    EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Pound", u"tonn", 6), texts), u"");
+    EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Pound", u"dek", 5), texts), u"{32944}Pound{40723}");
+    EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Stere", u"pip", 5), texts), u"{32944}pip{40724}Pipe [UK]; Pipe [US]");
+}
+
+TEST(UnitSearch, ListsBeginningsBeforeTheRest) {
+    const UnitTables tables = SeedTables();
+    std::vector<std::u16string> names;
+    for (const std::size_t i : MatchingUnits(tables[1], u"MI"))
+        names.push_back(tables[1][i].name);
+    EXPECT_EQ(names, (std::vector<std::u16string>{u"Microinch", u"Mile", u"mm - Millimeter",
+                                                  u"Nmi(NM,M) - Nautical Mile", u"Statue Mile (Mile)"}));
+    EXPECT_EQ(MatchingUnits(tables[1], u"").size(), 16U);
+    EXPECT_TRUE(MatchingUnits(tables[1], u"parsec").empty());
+}
+
+class ConverterPageTest : public testing::Test {
+protected:
+    ConverterPageTest() { m_page.SetTables(SeedTables()); }
+
+    test::CNumberTexts m_texts;
+    test::CScriptedBoxes m_boxes;
+    CConverterPage m_page{m_texts, m_boxes};
+};
+
+TEST_F(ConverterPageTest, ComputesAfterEachChange) {
+    EXPECT_EQ(m_page.ResultText(), u"0");
+    m_page.SelectCategory(1);
+    m_page.SetValue(u"3");
+    m_page.SelectFrom(5);  // km
+    m_page.SelectTo(8);    // m
+    EXPECT_EQ(m_page.ResultText(), u"3000");
+    m_page.Swap();
+    EXPECT_EQ(m_page.ResultText(), u"0.003");
+    m_page.Reset();
+    EXPECT_EQ(m_page.ValueText(), u"0");
+    EXPECT_EQ(m_page.ResultText(), u"0");
+}
+
+TEST_F(ConverterPageTest, SaysWhatLiesBelowAbsoluteZero) {
+    m_page.SelectCategory(kTemperatures);
+    m_page.SetValue(u"-273.15");
+    EXPECT_TRUE(m_boxes.shown.empty());
+    m_page.SetValue(u"-300");
+    ASSERT_EQ(m_boxes.shown.size(), 1U);
+    EXPECT_EQ(m_boxes.shown[0].text, u"{32915}");
+    EXPECT_EQ(m_page.ResultText(), u"0");
+    EXPECT_EQ(m_page.ValueText(), u"-300");
+}
+
+TEST_F(ConverterPageTest, KeepsUnitsByNameAndRemembersPairs) {
+    m_page.SelectCategory(6);
+    m_page.SelectFrom(17);
+    m_page.SelectTo(9);
+    m_page.Remember();
+    m_page.SelectCategory(1);
+    m_page.Remember();
+    for (int twice = 0; twice < 2; ++twice) {
+        m_page.Recall(m_page.Recent().back());
+        m_page.Remember();
+    }
+    ASSERT_EQ(m_page.Recent().size(), 2U);
+    m_page.Recall({6, u"Pound", u"kg - Kilogram"});
+
+    UnitTables shorter = SeedTables();
+    shorter[6].erase(shorter[6].begin());
+    m_page.SetTables(shorter);
+    EXPECT_EQ(m_page.Units()[m_page.From()].name, u"Pound");
+    EXPECT_EQ(m_page.Units()[m_page.To()].name, u"kg - Kilogram");
+
+    m_page.SetTables({});  // the database cannot be read any more
+    m_page.SetValue(u"5");
+    EXPECT_EQ(m_page.ResultText(), u"0");
+}
+
+}  // namespace
+}  // namespace rlx

@@ -1,0 +1,157 @@
+#include "tools/converter/unit_database.h"
+
+#include <gtest/gtest.h>
+
+#include "base/number.h"
+#include "base/text.h"
+#include "support/local_store.h"
+#include "support/number_texts.h"
+#include "support/scripted_boxes.h"
+#include "tools/converter/unit_editor.h"
+
+namespace rlx {
+namespace {
+
+constexpr std::size_t kAreas = 0;
+constexpr std::size_t kSpeeds = 3;
+constexpr std::size_t kWeights = 6;
+
+class UnitDatabaseTest : public testing::Test {
+protected:
+    UnitDatabaseTest() { EXPECT_TRUE(m_units.Open()); }
+
+    std::vector<MessageBox> Shown() { return std::exchange(m_boxes.shown, {}); }
+
+    test::CLocalStore m_store;
+    test::CNumberTexts m_texts;
+    test::CScriptedBoxes m_boxes;
+    CUnitDatabase m_units{m_store};
+    CUnitEditor m_editor{m_units, m_texts, m_boxes};
+};
+
+TEST_F(UnitDatabaseTest, IsSeededOnceInCategoryOrder) {
+    CUnitDatabase again(m_store);
+    ASSERT_TRUE(again.Open());
+    const std::vector<UnitRecord> rows = again.ReadAll();
+    ASSERT_EQ(rows.size(), 350U);
+    struct {
+        std::size_t row;
+        UnitRecord expected;
+    } const kRows[] = {
+        {0, {u"0", u"acre ", u"4046.8564224"}},
+        {6, {u"0", u"barn", u"0.0000000000000000000000000001"}},
+        {111, {u"0", u"virgate", u"120000"}},
+        {112, {u"1", u"Cable (in)", u"219.456"}},
+        {126, {u"1", u"Statue Mile (Mile)", u"1609"}},
+        {228, {u"3", u"centimeter/second", u"0.01"}},
+        {241, {u"4", u"°C - Degree Celsius", u"-"}},
+        {257, {u"5", u"bucket [US]", u"0,018927059"}},
+        {326, {u"5", u"Yard", u"0.76455486121558441558441558441558"}},
+        {349, {u"6", u"Tonne", u"1000"}},
+    };
+    for (const auto& [row, expected] : kRows)
+        EXPECT_EQ(rows[row], expected) << row << " " << ToUtf8(rows[row].name);
+    EXPECT_EQ(m_store.databases.at(u"rlxConverters").sortOrders, std::vector<PropertyId>{301});
+}
+
+TEST_F(UnitDatabaseTest, AddedUnitStandsLastInItsCategory) {
+    EXPECT_TRUE(m_editor.Add(kAreas, u"ACRE", u"abc"));  // the seeded name ends in a blank
+    EXPECT_TRUE(m_editor.Add(kSpeeds, u"furlong/fortnight", u" 0.000166"));
+    const UnitTables tables = m_units.ReadTables();
+    EXPECT_EQ(tables[kAreas].back(), (Unit{u"ACRE", u"abc"}));
+    EXPECT_EQ(tables[kSpeeds].back(), (Unit{u"furlong/fortnight", u" 0.000166"}));
+    EXPECT_EQ(tables[kWeights].back(), (Unit{u"Tonne", u"1000"}));
+    EXPECT_TRUE(Shown().empty());
+}
+
+TEST_F(UnitDatabaseTest, RefusalsSayWhyAndChangeNothing) {
+    for (int i = 13; i < 150; ++i)
+        ASSERT_EQ(m_units.Add(kSpeeds, u"speed " + FormatInteger(i), u"1"), UnitChange::kDone);
+    const std::vector<UnitRecord> before = m_units.ReadAll();
+    struct {
+        std::size_t category;
+        std::u16string name;
+        std::u16string text;
+    } const kRows[] = {
+        {kWeights, u"tonNE", u"{32944}tonNE{32945}"},
+        {kAreas, u"Acre ", u"{32944}Acre {32945}"},
+        {kAreas, u"", u"{40720}"},
+        {kAreas, u" \t", u"{40720}"},
+        {kTemperatures, u"Degree Newton", u"{40721}"},
+        {7, u"carat", u"{40721}"},
+        {kSpeeds, u"one too many", u"{40706}"},
+    };
+    for (const auto& [category, name, text] : kRows) {
+        EXPECT_FALSE(m_editor.Add(category, name, u"2")) << ToUtf8(name);
+        EXPECT_EQ(Shown(), std::vector{(MessageBox{u"{32923}", text, BoxIcon::kExclamation, BoxButtons::kOk})});
+    }
+    EXPECT_EQ(m_units.ReadAll(), before);
+}
+
+TEST_F(UnitDatabaseTest, DeletesAfterAQuestionAndByExactName) {
+    const MessageBox question{u"{32948}", u"{32946}yard{32947}", BoxIcon::kQuestion, BoxButtons::kYesNo};
+    EXPECT_FALSE(m_editor.Delete(kAreas, u"yard"));
+    EXPECT_EQ(Shown(), std::vector{question});
+    EXPECT_EQ(m_units.ReadAll().size(), 350U);
+
+    m_boxes.answers = {BoxAnswer::kYes};
+    EXPECT_TRUE(m_editor.Delete(kAreas, u"yard"));
+    EXPECT_EQ(m_units.ReadAll().size(), 349U);
+    EXPECT_EQ(m_units.ReadTables()[1].back().name, u"Yard");
+    Shown();
+
+    for (const auto* name : {u"yard", u"ARE", u"acre", u"Tonne"}) {
+        EXPECT_FALSE(m_editor.Delete(kAreas, name));
+        EXPECT_EQ(Shown().at(0).text, u"{32944}" + std::u16string(name) + u"{40723}");
+    }
+}
+
+TEST_F(UnitDatabaseTest, DeviceThatRefusesWritesLosesNothing) {
+    m_store.refuseWrites = true;
+    m_boxes.answers = {BoxAnswer::kYes};
+    EXPECT_FALSE(m_editor.Add(kAreas, u"pitch", u"7140"));
+    EXPECT_EQ(Shown().back().text, u"{40722}");
+    EXPECT_FALSE(m_editor.Delete(kAreas, u"yard"));
+    EXPECT_EQ(Shown().back().text, u"{40722}");
+    EXPECT_EQ(m_units.ReadAll().size(), 350U);
+}
+
+TEST(UnitDatabase, IsSeededWholeOrNotAtAll) {
+    test::CLocalStore store;
+    store.writesLeft = 200;
+    CUnitDatabase units(store);
+    EXPECT_FALSE(units.Open());
+    EXPECT_TRUE(units.ReadTables()[kTemperatures].empty());
+    EXPECT_EQ(units.Add(kAreas, u"pitch", u"7140"), UnitChange::kNotSaved);
+
+    store.writesLeft = SIZE_MAX;
+    EXPECT_TRUE(units.Open());
+    EXPECT_EQ(units.ReadAll().size(), 350U);
+}
+
+TEST(UnitTables, TemperaturesTakeFiveRowsWhateverTheyAre) {
+    const auto count = [](const UnitTables& tables) {
+        std::vector<std::size_t> sizes;
+        for (const auto& table : tables)
+            sizes.push_back(table.size());
+        return sizes;
+    };
+    const auto rows = [](std::u16string_view codes) {
+        std::vector<UnitRecord> made;
+        for (const char16_t code : codes)
+            made.push_back({std::u16string(1, code), u"unit", u"1"});
+        return made;
+    };
+    using Sizes = std::vector<std::size_t>;
+    EXPECT_EQ(count(TablesFromRows(rows(u"0011122344444556"))), (Sizes{2, 3, 2, 1, 5, 2, 1}));
+    EXPECT_EQ(count(TablesFromRows(rows(u"01234444556"))), (Sizes{1, 1, 1, 1, 5, 1, 1}));    // takes a "5" for a fifth
+    EXPECT_EQ(count(TablesFromRows(rows(u"0123444444556"))), (Sizes{1, 1, 1, 1, 5, 0, 0}));  // the sixth "4" blocks
+    EXPECT_EQ(count(TablesFromRows(rows(u"0344444"))), (Sizes{1, 0, 0, 1, 5, 0, 0}));
+    EXPECT_EQ(count(TablesFromRows({})), (Sizes{0, 0, 0, 0, 0, 0, 0}));
+
+    std::u16string many(151, u'0');
+    EXPECT_EQ(count(TablesFromRows(rows(many + u"1"))), (Sizes{150, 1, 0, 0, 5, 0, 0}));
+}
+
+}  // namespace
+}  // namespace rlx

@@ -1,0 +1,300 @@
+#include "tools/packing/packing_organizer.h"
+
+#include <gtest/gtest.h>
+
+#include "base/number.h"
+#include "base/text.h"
+#include "support/number_texts.h"
+#include "support/scripted_boxes.h"
+#include "tools/packing/one_folder.h"
+#include "tools/packing/packing_templates.h"
+
+namespace rlx {
+namespace {
+
+const std::string kEmptyFile = ">\r\nAll\r\n*\r\nAll Items\r\n<";
+
+class PackingOrganizerTest : public testing::Test {
+protected:
+    PackingOrganizerTest() { m_pack.Load(); }
+
+    void LoadBytes(const std::string& bytes) {
+        m_folder.files["pack.dat"] = bytes;
+        m_pack.Load();
+    }
+
+    /// Category "Trip" with the lists "Bag" and "Box"; "Bag" is current.
+    void MakeTrip() {
+        ASSERT_TRUE(m_pack.AddCategory(u"Trip") && m_pack.AddList(u"Bag") && m_pack.AddList(u"Box"));
+        m_pack.SelectList(1);
+    }
+
+    /// "a b*" for the items a and the ticked b of a list.
+    std::u16string Items(ListPlace place) const {
+        std::u16string shown;
+        for (const PackingItem& item : m_pack.Lists().List(place).items)
+            shown += (shown.empty() ? u"" : u" ") + item.text + (item.ticked ? u"*" : u"");
+        return shown;
+    }
+
+    /// The text of the only box that was shown since the last call; empty when there was none.
+    std::u16string Told() {
+        EXPECT_LE(m_boxes.shown.size(), 1U);
+        const std::u16string text = m_boxes.shown.empty() ? u"" : m_boxes.shown.back().text;
+        m_boxes.shown.clear();
+        return text;
+    }
+
+    test::COneFolder m_folder;
+    test::CNumberTexts m_texts;
+    test::CScriptedBoxes m_boxes;
+    CPackingOrganizer m_pack{m_folder, "home", m_texts, m_boxes};
+};
+
+TEST_F(PackingOrganizerTest, ItemStandsInAllItemsOnce) {
+    MakeTrip();
+    EXPECT_TRUE(m_pack.AddItem(u"tent"));
+    m_pack.SelectList(2);
+    EXPECT_TRUE(m_pack.AddItem(u"tent"));
+    EXPECT_TRUE(m_pack.SetTicked(0, true));
+    EXPECT_FALSE(m_pack.AddItem(u"tent"));
+    EXPECT_EQ(Told(), u"{41016}tent{32945}");
+    EXPECT_TRUE(m_pack.AddItem(u"Tent"));
+    EXPECT_EQ(Items({1, 1}), u"tent");
+    EXPECT_EQ(Items({1, 2}), u"tent* Tent");
+    EXPECT_EQ(Items({1, 0}), u"tent Tent");
+    EXPECT_EQ(Items({0, 0}), u"tent Tent");
+
+    m_pack.SelectCategory(0);
+    EXPECT_TRUE(m_pack.AddItem(u"soap"));
+    EXPECT_EQ(Items({1, 0}), u"tent Tent");
+    EXPECT_FALSE(m_pack.AddItem(u"*soap"));
+    EXPECT_EQ(Told(), u"{41017}");
+}
+
+TEST_F(PackingOrganizerTest, AddsToOtherListsAndTellsOnceWhatWasThere) {
+    MakeTrip();
+    ASSERT_TRUE(m_pack.AddItem(u"map"));
+    m_pack.SelectList(2);
+    EXPECT_TRUE(m_pack.AddItem(u"map", {{1, 1}, {1, 0}, {0, 0}}));
+    EXPECT_EQ(Told(), u"{41016}map{32945}");
+    EXPECT_EQ(Items({1, 2}), u"map");
+    EXPECT_TRUE(m_pack.AddItem(u"pen", {{1, 1}, {1, 0}, {0, 0}, {7, 7}}));
+    EXPECT_EQ(Told(), u"");
+    EXPECT_EQ(Items({1, 1}), u"map pen");
+    EXPECT_EQ(Items({0, 0}), u"map pen");
+
+    const PackingAdded added = m_pack.AddItems(PastedItems(u"- hat\r\n\n  * pen\n\u2022 cap\r> \r<b"), {{1, 1}});
+    EXPECT_EQ(Told(), u"{41017}");
+    EXPECT_EQ(added.added, 2U);
+    EXPECT_EQ(added.existing, 1U);
+    EXPECT_EQ(added.refused, 2U);
+    EXPECT_EQ(Items({1, 1}), u"map pen hat cap");
+}
+
+TEST_F(PackingOrganizerTest, RefusesBeyondTheLimits) {
+    for (int i = 1; i < 10; ++i)
+        EXPECT_TRUE(m_pack.AddCategory(u"c" + FormatInteger(i))) << i;
+    EXPECT_FALSE(m_pack.AddCategory(u"c10"));
+    EXPECT_EQ(Told(), u"{41009}");
+    for (int i = 1; i < 10; ++i)
+        EXPECT_TRUE(m_pack.AddList(u"l" + FormatInteger(i))) << i;
+    EXPECT_FALSE(m_pack.AddList(u"l10"));
+    EXPECT_EQ(Told(), u"{41010}");
+    EXPECT_EQ(m_pack.Current(), (ListPlace{9, 9}));
+}
+
+TEST_F(PackingOrganizerTest, RefusesNamesThatStandAlready) {
+    MakeTrip();
+    EXPECT_FALSE(m_pack.AddCategory(u"TRIP"));
+    EXPECT_EQ(Told(), u"{41030}TRIP{32945}");
+    EXPECT_FALSE(m_pack.AddList(u"all items"));
+    EXPECT_EQ(Told(), u"{41031}all items{32945}");
+    EXPECT_FALSE(m_pack.AddList(u"two\nlines"));
+    EXPECT_EQ(Told(), u"{41018}");
+    EXPECT_EQ(m_pack.Lists().Categories()[1].lists.size(), 3U);
+}
+
+TEST_F(PackingOrganizerTest, DeletesWithRefusalsAndUndo) {
+    EXPECT_FALSE(m_pack.DeleteCategory());
+    EXPECT_EQ(Told(), u"{41011}");
+    EXPECT_FALSE(m_pack.DeleteList());
+    EXPECT_EQ(Told(), u"{41012}");
+    EXPECT_FALSE(m_pack.IsChanged());
+
+    MakeTrip();
+    m_pack.AddItems({u"a", u"b", u"c"}, {{1, 1}});
+    const CPackingLists full = m_pack.Lists();
+    EXPECT_TRUE(m_pack.DeleteItem(1));
+    EXPECT_EQ(Items({1, 1}), u"a c");
+    EXPECT_EQ(Items({1, 0}), u"a b c");
+    EXPECT_TRUE(m_pack.UndoDelete());
+    EXPECT_EQ(m_pack.Lists(), full);
+    EXPECT_FALSE(m_pack.UndoDelete());
+
+    EXPECT_TRUE(m_pack.DeleteList());
+    EXPECT_EQ(m_pack.Lists().Categories()[1].lists[1].name, u"Box");
+    EXPECT_EQ(m_pack.Current(), (ListPlace{1, 0}));
+    EXPECT_TRUE(m_pack.DeleteCategory());
+    EXPECT_EQ(m_pack.Current(), (ListPlace{0, 0}));
+    EXPECT_EQ(Items({0, 0}), u"a b c");
+    EXPECT_TRUE(m_pack.UndoDelete());
+    EXPECT_EQ(m_pack.Current(), (ListPlace{1, 0}));
+    EXPECT_TRUE(m_pack.DeleteItem(0));
+    EXPECT_TRUE(m_pack.AddItem(u"d"));
+    EXPECT_FALSE(m_pack.CanUndoDelete());  // would take "d" back too
+    EXPECT_FALSE(m_pack.DeleteItem(99));
+    EXPECT_FALSE(m_pack.EditItem(99, u"x"));
+}
+
+TEST_F(PackingOrganizerTest, DeleteAllItemsAsksWhereOtherListsGoToo) {
+    MakeTrip();
+    ASSERT_TRUE(m_pack.AddItem(u"tent", {{1, 2}}));
+    EXPECT_TRUE(m_pack.DeleteAllItems());
+    EXPECT_EQ(Told(), u"");
+    EXPECT_EQ(Items({1, 1}), u"");
+    EXPECT_EQ(Items({1, 2}), u"tent");
+
+    m_pack.SelectList(0);
+    EXPECT_FALSE(m_pack.DeleteAllItems());
+    const MessageBox question{u"{32948}", u"{41013}", BoxIcon::kStop, BoxButtons::kYesNo};
+    EXPECT_EQ(m_boxes.shown, std::vector{question});
+    Told();
+    EXPECT_EQ(Items({1, 2}), u"tent");
+    m_boxes.answers = {BoxAnswer::kYes, BoxAnswer::kYes};
+    EXPECT_TRUE(m_pack.DeleteAllItems());
+    Told();
+    EXPECT_EQ(Items({1, 2}), u"");
+    EXPECT_EQ(Items({0, 0}), u"tent");
+
+    EXPECT_TRUE(m_pack.UndoDelete());
+    m_pack.SelectCategory(0);
+    EXPECT_TRUE(m_pack.DeleteAllItems());
+    EXPECT_EQ(Told(), u"{41014}");
+    EXPECT_EQ(Items({1, 2}) + Items({1, 0}) + Items({0, 0}), u"");
+    EXPECT_EQ(m_pack.Lists().Categories()[1].lists.size(), 3U);
+}
+
+TEST_F(PackingOrganizerTest, EditedItemKeepsAllItemsWhole) {
+    MakeTrip();
+    m_pack.AddItems({u"shrit", u"hat"}, {{1, 1}, {1, 2}});
+    ASSERT_TRUE(m_pack.SetTicked(0, true));
+    EXPECT_TRUE(m_pack.EditItem(0, u"shirt"));
+    EXPECT_EQ(Items({1, 1}), u"shirt* hat");
+    EXPECT_EQ(Items({1, 2}), u"shrit hat");
+    EXPECT_EQ(Items({1, 0}), u"shrit hat shirt");  // "Box" still has the old text
+    m_pack.SelectList(2);
+    EXPECT_TRUE(m_pack.EditItem(0, u"skirt"));
+    EXPECT_EQ(Items({1, 0}), u"skirt hat shirt");
+    EXPECT_EQ(Items({0, 0}), u"skirt hat shirt");
+    EXPECT_FALSE(m_pack.EditItem(0, u"hat"));
+    EXPECT_EQ(Told(), u"{41016}hat{32945}");
+    EXPECT_TRUE(m_pack.EditItem(0, u"skirt"));
+}
+
+TEST_F(PackingOrganizerTest, FiltersByTick) {
+    m_pack.AddItems({u"a", u"b", u"c"}, {{0, 0}});
+    m_pack.SetTicked(1, true);
+    using Places = std::vector<std::size_t>;
+    EXPECT_EQ(m_pack.VisibleItems(), (Places{0, 1, 2}));
+    m_pack.SetFilter(PackingFilter::kChecked);
+    EXPECT_EQ(m_pack.VisibleItems(), (Places{1}));
+    m_pack.SetFilter(PackingFilter::kUnchecked);
+    EXPECT_EQ(m_pack.VisibleItems(), (Places{0, 2}));
+    EXPECT_TRUE(m_pack.UncheckAll());
+    EXPECT_EQ(m_pack.VisibleItems(), (Places{0, 1, 2}));
+}
+
+TEST_F(PackingOrganizerTest, FindsByNameAndTellsWhatIsMissing) {
+    MakeTrip();
+    EXPECT_TRUE(m_pack.SelectNamed(u"trip", u"BOX"));
+    EXPECT_EQ(m_pack.Current(), (ListPlace{1, 2}));
+    EXPECT_TRUE(m_pack.SelectNamed(u"All", u""));
+    EXPECT_EQ(m_pack.Current(), (ListPlace{0, 0}));
+    EXPECT_FALSE(m_pack.SelectNamed(u"Sea", u"Bag"));
+    EXPECT_EQ(Told(), u"{41030}Sea{41032}");
+    EXPECT_FALSE(m_pack.SelectNamed(u"Trip", u"Sack"));
+    EXPECT_EQ(Told(), u"{41031}Sack{41032}");
+    EXPECT_FALSE(m_pack.ItemNamed(u"tent"));
+    EXPECT_EQ(Told(), u"{41016}tent{41032}");
+}
+
+TEST_F(PackingOrganizerTest, SavesOnlyWhenAskedTo) {
+    EXPECT_EQ(m_folder.files.at("pack.dat"), "");
+    EXPECT_TRUE(m_pack.Leave());
+    EXPECT_EQ(Told(), u"");
+
+    ASSERT_TRUE(m_pack.AddItem(u"tent"));
+    EXPECT_TRUE(m_pack.Leave());
+    EXPECT_EQ(m_boxes.shown, std::vector{(MessageBox{u"{32948}", u"{41015}", BoxIcon::kQuestion, BoxButtons::kYesNo})});
+    Told();
+    EXPECT_EQ(m_folder.files.at("pack.dat"), "");
+    EXPECT_FALSE(m_pack.IsChanged());
+    EXPECT_EQ(Items({0, 0}), u"tent");
+
+    ASSERT_TRUE(m_pack.SetTicked(0, true));
+    m_boxes.answers = {BoxAnswer::kYes};
+    EXPECT_TRUE(m_pack.Leave());
+    Told();
+    EXPECT_EQ(m_folder.files.at("pack.dat"), ">\r\nAll\r\n*\r\nAll Items\r\ntent1\r\n<");
+    EXPECT_FALSE(m_folder.files.contains("pack.dat.bak"));
+}
+
+TEST_F(PackingOrganizerTest, SaveThatFailsKeepsFileAndChanges) {
+    LoadBytes(kEmptyFile);
+    ASSERT_TRUE(m_pack.AddItem(u"tent"));
+    m_folder.locked["pack.dat"] = true;
+    m_boxes.answers = {BoxAnswer::kYes};
+    EXPECT_FALSE(m_pack.Leave());
+    EXPECT_EQ(m_boxes.shown.back().text, u"{41033}");
+    EXPECT_TRUE(m_pack.IsChanged());
+    EXPECT_EQ(m_folder.files.at("pack.dat"), kEmptyFile);
+}
+
+TEST_F(PackingOrganizerTest, NothingInTheFileIsLostBySaving) {
+    struct {
+        const char* name;
+        std::string loaded;
+        std::string meanwhile;  ///< what stands in the file when it is saved
+        std::string kept;       ///< the ".bak"; empty: there is none
+        std::u16string told;
+    } const kRows[] = {
+        {"sound", kEmptyFile, kEmptyFile, "", u""},
+        {"malformed", "my notes", "my notes", "my notes", u""},
+        {"text behind the end", kEmptyFile + "x", kEmptyFile + "x", kEmptyFile + "x", u""},
+        {"emptied meanwhile", kEmptyFile, "", "", u""},
+        {"changed meanwhile", kEmptyFile, "theirs", "theirs", u"{41034}"},
+        {"too large to read", std::string(5U << 20U, 'x'), std::string(5U << 20U, 'x'), std::string(5U << 20U, 'x'),
+         u""},
+        {"made meanwhile", "", "theirs", "theirs", u"{41034}"},
+    };
+    for (const auto& [name, loaded, meanwhile, kept, told] : kRows) {
+        m_folder.files.clear();
+        LoadBytes(loaded);
+        EXPECT_EQ(Told(), u"") << name;
+        m_folder.files["pack.dat"] = meanwhile;
+        m_folder.locked["pack.dat.bak"] = !kept.empty();
+        EXPECT_EQ(m_pack.Save(), kept.empty()) << name;
+        EXPECT_EQ(Told(), kept.empty() ? u"" : u"{41033}") << name;
+        EXPECT_EQ(m_folder.files.at("pack.dat") == meanwhile, !kept.empty() || meanwhile == kEmptyFile) << name;
+
+        m_folder.locked.clear();
+        EXPECT_TRUE(kept.empty() || m_pack.Save()) << name;
+        EXPECT_EQ(Told(), told) << name;
+        EXPECT_EQ(m_folder.files.at("pack.dat"), kEmptyFile) << name;
+        EXPECT_TRUE(m_folder.files["pack.dat.bak"] == kept) << name;
+    }
+}
+
+TEST_F(PackingOrganizerTest, TemplateFillsANewCategory) {
+    m_texts.Set(kTextTemplateBeach, u"Beach");
+    m_texts.Set(kTextTemplateBeachItems, u"hat;sun cream");
+    const PackingTemplate beach = PackingTemplates(m_texts).at(1);
+    EXPECT_TRUE(m_pack.AddCategory(beach.name, beach.items));
+    EXPECT_EQ(m_pack.Current(), (ListPlace{1, 0}));
+    EXPECT_EQ(Items({1, 0}), u"hat sun cream");
+    EXPECT_EQ(Items({0, 0}), u"hat sun cream");
+}
+
+}  // namespace
+}  // namespace rlx
