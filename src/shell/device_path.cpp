@@ -44,7 +44,7 @@ std::optional<std::string> IgnoringCase(const std::vector<std::string>& names, s
 
 std::filesystem::path Below(IFileSystem& files, const std::filesystem::path& folder, std::u16string_view name,
                             bool last) {
-    const auto exact = folder / ToUtf8(name);
+    auto exact = folder / ToUtf8(name);
     if (Exists(files, exact)) return exact;
     auto found = last ? IgnoringCase(files.ListFiles(folder), name) : std::nullopt;
     if (!found) found = IgnoringCase(files.ListFolders(folder), name);

@@ -34,7 +34,7 @@ std::optional<std::uint32_t> ResourceAddress(Bytes file, std::size_t optionalHea
     if (magic != kPe32 && magic != kPe32Plus) return std::nullopt;
     cursor.Skip((magic == kPe32 ? 92U : 108U) - 2U);
     if (cursor.U32() <= kResourceDirectory) return std::nullopt;
-    cursor.Skip(kResourceDirectory * 8U);
+    cursor.Skip(std::size_t{kResourceDirectory} * 8);
     const auto address = cursor.U32();
     const auto length = cursor.U32();
     if (!cursor.Ok() || address == 0 || length == 0) return std::nullopt;

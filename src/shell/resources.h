@@ -17,7 +17,7 @@ namespace rlx {
 class CResources : public ITexts {
 public:
     /// A module file larger than this is refused; give it to `IFileSystem::ReadFile` as the limit.
-    static constexpr std::size_t kMaxModuleSize = 4U * 1024U * 1024U;
+    static constexpr std::size_t kMaxModuleSize = std::size_t{4} * 1024 * 1024;
 
     /// The built-in English set.
     CResources();

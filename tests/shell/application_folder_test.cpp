@@ -1,6 +1,6 @@
 #include "shell/application_folder.h"
 
-#include "shell/memory_files.h"
+#include "support/memory_files.h"
 
 namespace rlx {
 namespace {

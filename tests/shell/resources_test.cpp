@@ -3,7 +3,7 @@
 #include <set>
 
 #include "base/text.h"
-#include "shell/enumerators.h"
+#include "support/enumerators.h"
 
 namespace rlx {
 namespace {

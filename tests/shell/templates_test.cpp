@@ -4,8 +4,8 @@
 #include "shell/command_ids.h"
 #include "shell/control_ids.h"
 #include "shell/english_image.h"
-#include "shell/enumerators.h"
 #include "shell/resources.h"
+#include "support/enumerators.h"
 
 namespace rlx {
 namespace {
