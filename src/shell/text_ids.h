@@ -241,7 +241,7 @@ enum TextId : int {
     kTextWindFrom = 40473,
     kTextInstantUtc = 40474,
     kTextForecastBroken = 40475,
-    kTextForecastOther = 40476,
+    kTextWeatherToday = 40476,
     kTextForecastOlder = 40477,
     kTextUpdatingPlace = 40478,
     kTextCelsius = 40479,
@@ -252,6 +252,7 @@ enum TextId : int {
     kTextNextDay = 40485,
     kTextChooseWeatherPlace = 40486,
     kTextDaysGone = 40487,
+    kTextWeatherTomorrow = 40488,
 
     // Currency.
     kTextRatesOf = 40500,

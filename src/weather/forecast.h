@@ -19,17 +19,17 @@ struct TimeOfDay {
 
 /// One calendar day of the city.
 struct ForecastDay {
-    Date date;                            ///< in the city's own zone
-    std::optional<int> code;              ///< WMO 4677 code, 0 to 99: the day's most telling weather
-    std::optional<double> high;           ///< degrees Celsius
-    std::optional<double> low;            ///< degrees Celsius, never above `high`
-    std::optional<double> precipitation;  ///< millimetres of water
-    std::optional<int> probability;       ///< of precipitation, percent
-    std::optional<double> windSpeed;      ///< the day's strongest mean wind, km/h
-    std::optional<int> windDirection;     ///< where the wind comes from, degrees from north by east, 0 to 359
-    std::optional<int> humidity;          ///< relative, percent
-    std::optional<TimeOfDay> sunrise;     ///< none in polar day and polar night
-    std::optional<TimeOfDay> sunset;      ///< earlier than `sunrise`: in the night that follows
+    Date date;                                 ///< in the city's own zone
+    std::optional<int> code = {};              ///< WMO 4677 code, 0 to 99: the day's most telling weather
+    std::optional<double> high = {};           ///< degrees Celsius
+    std::optional<double> low = {};            ///< degrees Celsius, never above `high`
+    std::optional<double> precipitation = {};  ///< millimetres of water
+    std::optional<int> probability = {};       ///< of precipitation, percent
+    std::optional<double> windSpeed = {};      ///< the day's strongest mean wind, km/h
+    std::optional<int> windDirection = {};     ///< where the wind comes from, degrees from north by east, 0 to 359
+    std::optional<int> humidity = {};          ///< relative, percent
+    std::optional<TimeOfDay> sunrise = {};     ///< none in polar day and polar night
+    std::optional<TimeOfDay> sunset = {};      ///< earlier than `sunrise`: in the night that follows
 
     friend bool operator==(const ForecastDay&, const ForecastDay&) = default;
 };

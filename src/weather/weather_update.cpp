@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/fill_in.h"
+#include "shell/fill_text.h"
 #include "weather/weather_places.h"
 
 namespace rlx {
@@ -66,9 +66,9 @@ void CWeatherUpdate::Report(const std::vector<std::u16string>& places, const std
     if (std::ranges::find(results, PlaceUpdate::kNoReply) != results.end())
         Show(kTextAppName, m_texts.Text(kTextSyncFailed));
     if (const auto name = nameOfFirst(PlaceUpdate::kBroken); !name.empty())
-        Show(kTextError, FillIn(m_texts.Text(kTextForecastBroken), {name}));
+        Show(kTextError, FillText(m_texts.Text(kTextForecastBroken), {name}));
     if (const auto name = nameOfFirst(PlaceUpdate::kNotSaved); !name.empty())
-        Show(kTextError, FillIn(m_texts.Text(kTextWeatherNotSaved), {name}));
+        Show(kTextError, FillText(m_texts.Text(kTextWeatherNotSaved), {name}));
 }
 
 void CWeatherUpdate::Show(int titleId, const std::u16string& text) {
