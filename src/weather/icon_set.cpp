@@ -21,7 +21,7 @@ std::optional<std::filesystem::path> FolderBelow(IFileSystem& files, const std::
 }  // namespace
 
 std::filesystem::path ChooseIconSet(IFileSystem& files, const IconSetSources& sources) {
-    const auto fallback = ResolveBelow(files, sources.applicationFolder, kDefaultFolder).value_or("");
+    auto fallback = ResolveBelow(files, sources.applicationFolder, kDefaultFolder).value_or("");
     if (sources.chosen == kDefault) return fallback;
     if (!sources.chosen.empty())
         if (const auto folder = FolderBelow(files, sources.applicationFolder, sources.chosen)) return *folder;

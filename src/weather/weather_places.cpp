@@ -11,11 +11,11 @@ std::vector<WeatherPlace> ReadWeatherPlaces(IByteStream& stream) {
     std::vector<WeatherPlace> places;
     const auto count = ParseInteger(ReadToken(reader, '\n'));
     for (std::int32_t i = 0; i < count; ++i) {
-        const auto name = ReadToken(reader, ';');
-        if (name.empty() || name == u">") break;
-        const auto country = ReadToken(reader, ';');
-        const auto feedName = Trim(ReadToken(reader, '\n'));
-        if (!feedName.empty()) places.push_back({name + u":" + country, feedName});
+        auto place = ReadToken(reader, ';');
+        if (place.empty() || place == u">") break;
+        place.append(u":").append(ReadToken(reader, ';'));
+        auto feedName = Trim(ReadToken(reader, '\n'));
+        if (!feedName.empty()) places.push_back({std::move(place), std::move(feedName)});
     }
     return places;
 }

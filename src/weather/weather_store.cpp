@@ -131,8 +131,9 @@ SaveResult CWeatherStore::Save(std::u16string_view place, std::u16string_view re
 
 bool CWeatherStore::MayReplace(std::u16string_view place, const Forecast& forecast, const DateTime& utcNow) {
     const auto stored = Find(place);
-    if (!stored || stored->forecast.issued <= forecast.issued) return true;
-    return SecondNumber(stored->forecast.issued) > SecondNumber(utcNow) + kFutureLimit;
+    if (!stored) return true;
+    const auto storedIssue = SecondNumber(stored->forecast.issued);
+    return storedIssue <= SecondNumber(forecast.issued) || storedIssue > SecondNumber(utcNow) + kFutureLimit;
 }
 
 bool CWeatherStore::Write(std::u16string_view place, const Record& record) {

@@ -30,7 +30,7 @@ std::u16string CWeatherTexts::PerCent(std::optional<int> value) const {
 
 std::u16string CWeatherTexts::Wind(const ForecastDay& day) const {
     if (!day.windSpeed) return Missing();
-    const auto speed = WithUnit(kTextKilometresPerHour, FormatInteger(std::lround(*day.windSpeed)));
+    auto speed = WithUnit(kTextKilometresPerHour, FormatInteger(std::lround(*day.windSpeed)));
     if (!day.windDirection) return speed;
     return FillText(m_texts.Text(kTextWindFrom), {speed, m_texts.Text(CompassPointText(*day.windDirection))});
 }

@@ -53,6 +53,19 @@ TEST(Freshness, GoesByTheIssueTimeAndTheCitysDate) {
               -30);
 }
 
+TEST(Freshness, UtcIsTheDeviceClockWithoutItsReference) {
+    const struct {
+        ClockOffset reference;
+        DateTime utc;
+    } rows[] = {
+        {{0, 0}, At(11, 22, 10)},       {{14, 0}, At(11, 21, 20)},     {{-11, 0}, At(11, 22, 21)},
+        {{5, 30}, At(11, 22, 4, 30)},   {{5, -30}, At(11, 22, 4, 30)}, {{-3, -30}, At(11, 22, 13, 30)},
+        {{-3, 30}, At(11, 22, 13, 30)}, {{0, 30}, At(11, 22, 9, 30)},  {{0, -30}, At(11, 22, 10, 30)},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(UtcOf(At(11, 22, 10), row.reference), row.utc) << row.reference.hours << ":" << row.reference.minutes;
+}
+
 TEST(Freshness, OldDaysAreNeverToday) {
     const Date today{2026, 12, 31};
     EXPECT_EQ(NameOfDay(today, today, false), DayName::kToday);
