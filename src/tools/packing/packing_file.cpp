@@ -19,6 +19,14 @@ bool BeginsWith(std::u16string_view line, char16_t mark) {
     return !line.empty() && line.front() == mark;
 }
 
+/// Without its last character, which may be a pair of surrogates: half of one could not be written again.
+std::u16string_view WithoutLast(std::u16string_view line) {
+    if (line.empty()) return line;
+    const bool isLowHalf = line.back() >= 0xDC00 && line.back() <= 0xDFFF;
+    line.remove_suffix(isLowHalf && line.size() > 1 ? 2 : 1);
+    return line;
+}
+
 /// Reads the grammar line by line. A line holds the carriage return that ends it.
 class CPackingParser {
 public:
@@ -67,7 +75,7 @@ private:
         const std::optional<std::u16string_view> line = Next();
         if (!line) return std::nullopt;
         if (!line->ends_with(u'\r')) m_lossy = true;
-        return std::u16string(line->substr(0, line->empty() ? 0 : line->size() - 1));
+        return std::u16string(WithoutLast(*line));
     }
 
     /// Behind the category's marker; leaves the marker after the category in `line`.
@@ -94,15 +102,15 @@ private:
     std::optional<std::u16string_view> ParseItems(PackingList& list) {
         for (std::optional<std::u16string_view> line = Next(); line; line = Next()) {
             if (IsMarker(*line, kListMark) || IsMarker(*line, kCategoryMark) || IsMarker(*line, kEndMark)) return line;
+            const std::u16string_view ticked = WithoutLast(*line);
             // Too short for a tick and a carriage return.
-            if (line->size() < 2) {
+            if (ticked.empty()) {
                 m_lossy = true;
                 continue;
             }
-            const std::size_t tick = line->size() - 2;
-            const bool isTicked = (*line)[tick] == kTicked;
+            const bool isTicked = ticked.back() == kTicked;
             if (!line->ends_with(isTicked ? u"1\r" : u"0\r")) m_lossy = true;
-            list.items.push_back({std::u16string(line->substr(0, tick)), isTicked});
+            list.items.push_back({std::u16string(WithoutLast(ticked)), isTicked});
         }
         return std::nullopt;
     }
