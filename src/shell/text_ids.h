@@ -47,7 +47,14 @@ enum TextId : int {
     kTextSunday = 40110,              // 40110 to 40116: "Sun" to "Sat"
     // 40200: clocks   40300: map and sun   40400: weather   40500: currency   40600: tools frame and shared pages
     // 40700: converter   40800: dialing   40900: clothing   41000: packing   41100: tip and tax
-    // 41200: news and feeds   41300: skins   41400: languages   41500: today   41600: reminders
+    kTextConnectionBefore = 41200,  // 41200: news and feeds
+    kTextConnectionAfter = 41201,
+    kTextDontAskAgain = 41202,
+    kTextLoopbackNetwork = 41203,
+    kTextNewsNotSaved = 41210,
+    kTextNoNews = 41211,
+    kTextRatesNotSaved = 41212,
+    // 41300: skins   41400: languages   41500: today   41600: reminders
     // 42000: command line   43000: feed server   44000: doctor
 };
 
