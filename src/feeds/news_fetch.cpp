@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "base/text.h"
-#include "feeds/feed_marks.h"
 #include "feeds/setting_names.h"
 
 namespace rlx {
@@ -12,8 +11,8 @@ CNewsFetch::CNewsFetch(const FeedPorts& ports, IFileSystem& files, std::filesyst
     : m_ports(ports), m_files(files), m_folder(std::move(applicationFolder)), m_client(ports) {}
 
 NewsFetchResult CNewsFetch::Fetch(std::u16string_view url, std::u16string_view parameters, IHttpObserver* observer) {
-    CFeedMarks marks(m_ports.registry);
     CFeedSettings settings(m_ports.registry);
+    const std::u16string known = settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, kValueNewsId);
     const FeedReply reply = m_client.PostFeedRequest(url, parameters, true, observer);
     NewsFetchResult result;
     result.outcome = reply.outcome;
@@ -24,7 +23,7 @@ NewsFetchResult CNewsFetch::Fetch(std::u16string_view url, std::u16string_view p
     }
     if (!Save(reply.body)) {
         // The page is still to be fetched, so its identifier must not count as known.
-        marks.Restore();
+        settings.SetText(kKeyApplication, kValueNewsId, known);
         return result;
     }
     result.saved = true;
