@@ -23,10 +23,13 @@ struct Property {
 /// Numbered string properties in the order in which they were written; each number at most once.
 using Record = std::vector<Property>;
 
+/// True when no number comes twice.
+bool IsRecord(const std::vector<Property>& properties);
+
 /// The text of one property; empty when the record has none of that number.
 std::u16string PropertyText(const Record& record, PropertyId id);
 
-/// Identity of a record in its database; never used again after the record is deleted.
+/// Identity of a record in its store; never used again after the record is deleted.
 using RecordId = std::int64_t;
 
 /// An open record database. Sort orders are ascending by UTF-16 units, without case folding; records with equal values
@@ -51,8 +54,11 @@ public:
 
     virtual std::optional<Record> Read(RecordId record) = 0;
 
-    /// Nothing when the device refuses the write; the database is then unchanged. So with the other two writes.
+    /// Nothing when the device refuses the write or a property number comes twice; the database is then unchanged. So
+    /// with the other two writes, which also fail when there is no such record.
     virtual std::optional<RecordId> Add(const Record& record) = 0;
+
+    /// The record then has these properties and no others. It keeps its place among records with equal values.
     virtual bool Overwrite(RecordId record, const Record& properties) = 0;
     virtual bool Delete(RecordId record) = 0;
 
@@ -80,7 +86,8 @@ public:
 
     /// Runs `work` as one step: when it returns true all its writes are there, else none. Nobody else sees a part of
     /// them, and of two processes that try at once the second waits for the first and then sees what it wrote. A call
-    /// inside another joins it. Returns whether the writes are there.
+    /// inside another joins it: its writes are there when the outer one's are; when it fails only its own are taken
+    /// back. Returns whether the writes are there.
     virtual bool Transact(const std::function<bool()>& work) = 0;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -36,9 +37,14 @@ struct RegistryEntry {
 /// time.
 class IRegistry {
 public:
+    /// The most characters of a key path that can be created.
+    static constexpr std::size_t kMaxKeyLength = 1024;
+
     virtual ~IRegistry() = default;
 
-    /// True when the key can be opened: it was created, or a key below it was.
+    /// True when the key can be opened: it was created, or a key below it was. The empty path is the root itself and
+    /// always there. When the device cannot be read the answer is true, so that nobody takes a key for missing and
+    /// writes defaults over values that could not be seen.
     virtual bool KeyExists(RegistryRoot root, std::u16string_view key) = 0;
 
     /// The names of the key's values in the order in which they were first written; empty when the key cannot be

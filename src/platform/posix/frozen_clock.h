@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/clock.h"
+
+namespace rlx {
+
+/// Replaces the reading or the bias of another clock by a fixed one. Does not own the other clock.
+class CFrozenClock : public IClock {
+public:
+    CFrozenClock(const IClock& clock, std::optional<DateTime> now, std::optional<int> bias)
+        : m_clock(clock), m_now(now), m_bias(bias) {}
+
+    DateTime Now() const override { return m_now ? *m_now : m_clock.Now(); }
+    int StandardBias() const override { return m_bias ? *m_bias : m_clock.StandardBias(); }
+
+private:
+    const IClock& m_clock;
+    const std::optional<DateTime> m_now;
+    const std::optional<int> m_bias;
+};
+
+}  // namespace rlx
