@@ -88,7 +88,9 @@ void CCurlTransfer::SetUpCallbacks() {
 bool CCurlTransfer::WaitForHeaders() {
     while (!m_headersDone && Step()) {
     }
-    return m_headersDone && m_failure == kHttpNoFailure;
+    // A reply that ends within its headers is no failure to curl.
+    if (!m_headersDone && m_failure == kHttpNoFailure) m_failure = kHttpConnectionAborted;
+    return m_headersDone;
 }
 
 int CCurlTransfer::Status() const {

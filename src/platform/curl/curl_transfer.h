@@ -18,7 +18,7 @@ public:
     CCurlTransfer(const CCurlTransfer&) = delete;
     CCurlTransfer& operator=(const CCurlTransfer&) = delete;
 
-    /// True when status line and headers are there; false leaves the reason in `Failure`.
+    /// True when status line and headers are there, whatever comes of the body; false leaves the reason in `Failure`.
     bool WaitForHeaders();
 
     int Status() const override;
