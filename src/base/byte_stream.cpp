@@ -18,12 +18,18 @@ std::size_t CMemoryStream::Read(char* buffer, std::size_t size) {
 CByteReader::CByteReader(IByteStream& stream) : m_stream(stream), m_block(kBlockSize, '\0') {}
 
 int CByteReader::Next() {
-    if (m_at == m_filled) {
-        m_filled = m_stream.Read(m_block.data(), m_block.size());
-        m_at = 0;
-        if (m_filled == 0) return -1;
-    }
+    if (AtEnd()) return -1;
     return static_cast<unsigned char>(m_block[m_at++]);
+}
+
+bool CByteReader::AtEnd() {
+    return m_at == m_filled && !Fill();
+}
+
+bool CByteReader::Fill() {
+    m_filled = m_stream.Read(m_block.data(), m_block.size());
+    m_at = 0;
+    return m_filled > 0;
 }
 
 }  // namespace rlx

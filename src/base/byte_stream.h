@@ -35,7 +35,12 @@ public:
     /// The next byte as 0 to 255, or -1 at the end.
     int Next();
 
+    /// True when no byte is left. May read a block to find out.
+    bool AtEnd();
+
 private:
+    bool Fill();
+
     static constexpr std::size_t kBlockSize = 16384;
 
     IByteStream& m_stream;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 
 /// Dates of the Gregorian calendar, proleptic, without any time zone. Pure functions, any thread.

@@ -73,7 +73,7 @@ bool CConnectionChooser::Ask(const Destination& destination) {
     box.icon = BoxIcon::kQuestion;
     box.buttons = BoxButtons::kYesNo;
     bool never = false;
-    if (m_boxes.ShowWithCheck(box, m_texts.Text(kTextDontAskAgain), never) != BoxAnswer::kYes) return false;
+    if (m_boxes.ShowWithCheck(box, m_texts.Text(kTextDontAskForConnection), never) != BoxAnswer::kYes) return false;
     if (never) {
         const std::u16string agreed = m_settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, kValueAgreed);
         m_settings.SetText(kKeyApplication, kValueAgreed, agreed + GuidText(destination.guid) + u";");

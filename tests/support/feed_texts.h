@@ -45,10 +45,10 @@ private:
         {40000, u"Roamlytix"},
         {41200, u"The connection <"},
         {41201, u"> will be used."},
-        {41202, u"Don't ask again for this connection"},
-        {41210, u"The news page could not be saved."},
-        {41211, u"No news..."},
-        {41212, u"The rates could not be stored."},
+        {41210, u"Don't ask again for this connection"},
+        {41222, u"The news page could not be saved."},
+        {41202, u"No news..."},
+        {41221, u"The rates could not be stored."},
     };
 };
 

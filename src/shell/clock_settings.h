@@ -1,0 +1,23 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "shell/registry_store.h"
+
+namespace rlx {
+
+/// The choices of the world clocks.
+struct ClockSettings {
+    std::uint32_t home = 0;                 ///< `CityIndex`
+    std::array<std::uint32_t, 4> clocks{};  ///< `CityIndex` of the four others
+    std::uint32_t syncZone = 0;             ///< not 0: the device clock runs on the device's time-zone setting
+
+    friend bool operator==(const ClockSettings&, const ClockSettings&) = default;
+};
+
+/// Reads them with their defaults. On a device without them all six values are there afterwards; a missing "syncltz"
+/// is written in any case.
+ClockSettings LoadClockSettings(CRegistryStore& store);
+
+}  // namespace rlx

@@ -1,0 +1,63 @@
+#pragma once
+
+/// The numbers of dialogs and their controls. The resource compiler reads them from here, so each stands once:
+/// "kName = number," on a line of its own. A number is never used for another dialog or control.
+namespace rlx {
+
+enum DialogId : int {
+    kDialogLanguage = 318,  // what makes a library a language module
+    kDialogInstallLanguages = 319,
+    kDialogChooseCity = 320,
+    kDialogName = 321,  // asks for one line of text; its title comes from the string table
+    kDialogTodayOptions = 322,
+    kDialogEditUnits = 323,
+    kDialogOwnerName = 324,
+    kDialogSunDetails = 325,
+    kDialogCredits = 326,
+    kDialogAddItem = 327,     // Packing List > New item
+    kDialogAddFromAll = 328,  // Packing List > Add/Remove item(s)
+};
+
+enum ControlId : int {
+    kControlOk = 1,
+    kControlCancel = 2,
+
+    kControlLanguageList = 1000,
+    kControlModuleFolder = 1010,
+    kControlBrowse = 1011,
+    kControlModuleList = 1012,
+    kControlRemoveAfterInstall = 1013,
+    kControlInstall = 1014,
+    kControlCitySearch = 1020,
+    kControlCityList = 1021,
+    kControlNamePrompt = 1030,
+    kControlName = 1031,
+    kControlTodayCities = 1040,
+    kControlTodayRates = 1041,
+    kControlTodayHeading = 1042,
+    kControlUnitCategory = 1050,
+    kControlUnitList = 1051,
+    kControlUnitName = 1052,
+    kControlUnitValue = 1053,
+    kControlUnitAdd = 1054,
+    kControlUnitDelete = 1055,
+    kControlOwnerName = 1060,
+    kControlSunCity = 1070,
+    kControlSunPosition = 1071,
+    kControlSunDaylightSaving = 1072,
+    kControlSunPeriod = 1073,
+    kControlSunGmt = 1074,
+    kControlSunrise = 1075,
+    kControlSunset = 1076,
+    kControlDayLength = 1077,
+    kControlSunNote = 1078,
+    kControlCreditsText = 1080,
+    kControlItemText = 1090,
+    kControlItemLists = 1091,
+    kControlItemCategories = 1092,
+    kControlFromItems = 1100,
+    kControlToLists = 1101,
+    kControlToCategories = 1102,
+};
+
+}  // namespace rlx

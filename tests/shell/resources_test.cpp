@@ -1,0 +1,50 @@
+#include "shell/resources.h"
+
+#include <set>
+
+#include "base/text.h"
+#include "support/enumerators.h"
+
+namespace rlx {
+namespace {
+
+TEST(ResourcesTest, EveryNumberedTextIsThereAndNumberedOnce) {
+    const CResources resources;
+    const auto names = test::Enumerators("text_ids.h", "kText");
+    ASSERT_GT(names.size(), 250U);
+    std::set<int> seen;
+    for (const auto& [name, number] : names) {
+        EXPECT_NE(resources.Text(number), u"") << name;
+        EXPECT_TRUE(seen.insert(number).second) << name << " takes a number that is taken";
+    }
+}
+
+TEST(ResourcesTest, TextsAreReadUnitByUnit) {
+    const struct {
+        const char* name;
+        int id;
+        const char16_t* text;
+    } rows[] = {
+        {"leading and trailing blank", kTextUnitAfter, u" > Unit?"},
+        {"ends with a blank", kTextDeleteBefore, u"Delete < "},
+        {"blank lines", kTextCannotUpdate, u"Cannot update.\n\nPlease check your Internet connection."},
+        {"ends with line ends", kTextLastUpdate, u"Last update\n"},
+        {"spelled as agreed", kTextSyncFailed, u"Syncronisation failed"},
+        {"per cent signs", kTextRateRange, u"Value must be between 0% and 100%"},
+        {"apostrophe and brackets", kTextCannotDeleteAll, u"Can't delete <All> category!"},
+        {"quotation marks", kTextFileNotRead, u"\"%1\" could not be read."},
+        {"doubled ampersand", kTextSizesBlouses, u"Women's blouses && sweaters"},
+        {"beyond ASCII", kTextWeatherTip,
+         u"Tap a day to see more of it. Tap the temperature to change between °C and °F."},
+        {"last of its block", 32927, u""},
+        {"no such block", 39000, u""},
+        {"negative", -1, u""},
+        {"beyond the table", 65536 + kTextError, u""},
+    };
+    const CResources resources;
+    for (const auto& row : rows)
+        EXPECT_EQ(ToUtf8(resources.Text(row.id)), ToUtf8(row.text)) << row.name;
+}
+
+}  // namespace
+}  // namespace rlx
