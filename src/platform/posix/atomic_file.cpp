@@ -4,8 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cstdio>
-#include <cstdlib>
+#include <cerrno>
 #include <system_error>
 
 namespace rlx {
@@ -32,36 +31,31 @@ fs::path FolderOf(const fs::path& file) {
     return file.has_parent_path() ? file.parent_path() : fs::path(".");
 }
 
-/// What a newly created file gets. Asking means setting, so it is asked once, before there are threads to disturb.
-mode_t NewFileMode() {
-    static const mode_t kMask = [] {
-        const mode_t mask = ::umask(022);
-        ::umask(mask);
-        return mask;
-    }();
-    return 0666U & ~kMask;
+/// A new file in `folder`, with the permissions that the process gives to new files; its path goes to `name`.
+CDescriptor MakeTemporary(const fs::path& folder, std::string& name) {
+    constexpr int kMostTries = 1000;
+    for (int i = 0; i < kMostTries; ++i) {
+        name = (folder / (".rlx-" + std::to_string(::getpid()) + "-" + std::to_string(i))).string();
+        const int number = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (number >= 0 || errno != EEXIST) return CDescriptor(number);
+    }
+    return CDescriptor(-1);
 }
 
-/// The mode that the new file must have; nothing may be written where something else than a file stands.
-bool FindMode(const fs::path& target, mode_t& mode) {
+/// Gives `descriptor` the permissions of the file that it will replace. False where something else than a file stands.
+bool TakeMode(const fs::path& target, const CDescriptor& descriptor) {
     struct stat status {};
-    if (::stat(target.c_str(), &status) != 0) {
-        mode = NewFileMode();
-        return true;
-    }
-    mode = status.st_mode & 07777U;
-    return S_ISREG(status.st_mode);
+    if (::stat(target.c_str(), &status) != 0) return errno == ENOENT;
+    return S_ISREG(status.st_mode) && ::fchmod(descriptor.Number(), status.st_mode & 07777U) == 0;
 }
 
 }  // namespace
 
 CAtomicFile::CAtomicFile(const fs::path& file) : m_target(FollowLinks(file)), m_descriptor(-1) {
-    mode_t mode = 0;
-    if (!m_target.has_filename() || !FindMode(m_target, mode)) return;
-    m_temporary = (FolderOf(m_target) / ".rlx-XXXXXX").string();
-    m_descriptor = CDescriptor(::mkostemp(m_temporary.data(), O_CLOEXEC));
+    if (!m_target.has_filename()) return;
+    m_descriptor = MakeTemporary(FolderOf(m_target), m_temporary);
     m_made = m_descriptor.IsOpen();
-    m_sound = m_made && ::fchmod(m_descriptor.Number(), mode) == 0;
+    m_sound = m_made && TakeMode(m_target, m_descriptor);
 }
 
 CAtomicFile::~CAtomicFile() {

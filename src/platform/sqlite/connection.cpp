@@ -37,7 +37,12 @@ StoreResult CConnection::OpenNamed(const char* name) {
         return Note(ToStoreResult(code));
     }
     sqlite3_busy_timeout(m_database, kBusyTimeout);
+    sqlite3_db_config(m_database, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     return StoreResult::kDone;
+}
+
+void CConnection::Trust() {
+    if (m_database != nullptr) sqlite3_db_config(m_database, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
 }
 
 void CConnection::Close() {
@@ -59,12 +64,12 @@ CStatement CConnection::Prepare(const char* sql) {
     return {*this, statement};
 }
 
-bool CConnection::CanPrepare(const char* sql) {
-    if (m_database == nullptr) return false;
+StoreResult CConnection::Check(const char* sql) {
+    if (m_database == nullptr) return StoreResult::kNoAccess;
     sqlite3_stmt* statement = nullptr;
     const int code = sqlite3_prepare_v2(m_database, sql, -1, &statement, nullptr);
     sqlite3_finalize(statement);
-    return Note(ToStoreResult(code)) == StoreResult::kDone;
+    return Note(ToStoreResult(code));
 }
 
 StoreResult CConnection::Execute(const char* sql) {

@@ -33,11 +33,15 @@ public:
 
     void Close();
 
+    /// Closing the last connection folds the log beside the file into it. That is off after `Open`, so that a file that
+    /// turns out to be damaged stays as it was found, log and all; on once the file is trusted.
+    void Trust();
+
     /// `sql` must be a literal: it is prepared once and found again by its address.
     CStatement Prepare(const char* sql);
 
-    /// True when the tables and columns that `sql` names are there.
-    bool CanPrepare(const char* sql);
+    /// `kRejected` when a table or column that `sql` names is not there. Does not run it.
+    StoreResult Check(const char* sql);
 
     /// Runs statements that are not worth keeping. `sql` may hold several, separated by ";".
     StoreResult Execute(const char* sql);

@@ -65,7 +65,8 @@ StoreResult SwitchToWal(CConnection& connection) {
 }
 
 SchemaState StateOfFailure(StoreResult result) {
-    return result == StoreResult::kDamaged ? SchemaState::kDamaged : SchemaState::kUnreadable;
+    const bool damaged = result == StoreResult::kDamaged || result == StoreResult::kRejected;
+    return damaged ? SchemaState::kDamaged : SchemaState::kUnreadable;
 }
 
 }  // namespace
@@ -84,7 +85,8 @@ SchemaState InspectSchema(CConnection& connection) {
         return empty ? SchemaState::kEmpty : SchemaState::kForeign;
     }
     if (version > kSchemaVersion) return SchemaState::kNewer;
-    return connection.CanPrepare(kTouchAll) ? SchemaState::kReady : SchemaState::kDamaged;
+    const StoreResult tables = connection.Check(kTouchAll);
+    return tables == StoreResult::kDone ? SchemaState::kReady : StateOfFailure(tables);
 }
 
 StoreResult CreateSchema(CConnection& connection) {

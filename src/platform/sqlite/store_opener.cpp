@@ -27,13 +27,13 @@ bool IsThere(const fs::path& file) {
     return fs::exists(fs::symlink_status(file, error));
 }
 
-/// Keeps other processes from moving the same file aside meanwhile. Without the lock (a file system that has none) the
-/// work goes on.
+/// Keeps a file from being moved aside (exclusive) while another process opens it (shared): that one would go on with
+/// the old file and the new one's log. Without the lock (a file system that has none) the work goes on.
 class CFolderLock {
 public:
-    explicit CFolderLock(const fs::path& folder)
+    CFolderLock(const fs::path& folder, int kind)
         : m_descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-        if (m_descriptor >= 0) ::flock(m_descriptor, LOCK_EX);
+        if (m_descriptor >= 0) ::flock(m_descriptor, kind);
     }
     ~CFolderLock() {
         if (m_descriptor >= 0) ::close(m_descriptor);
@@ -59,8 +59,11 @@ CStoreOpener::CStoreOpener(fs::path file, const IClock& clock)
     : m_file(std::move(file)), m_suspectMark(WithSuffix(m_file, "-suspect")), m_clock(clock) {}
 
 OpenedStore CStoreOpener::Run() {
-    const SchemaState state = OpenAndInspect();
-    if (state != SchemaState::kDamaged) return Accept(state, StoreOutcome::kCreated);
+    {
+        const CFolderLock lock(FolderOf(m_file), LOCK_SH);
+        const SchemaState state = OpenAndInspect();
+        if (state != SchemaState::kDamaged) return Accept(state, StoreOutcome::kCreated);
+    }
     return Replace();
 }
 
@@ -102,7 +105,7 @@ OpenedStore CStoreOpener::Accept(SchemaState state, StoreOutcome created) {
 }
 
 OpenedStore CStoreOpener::Replace() {
-    const CFolderLock lock(FolderOf(m_file));
+    const CFolderLock lock(FolderOf(m_file), LOCK_EX);
     // Another process may have replaced the file while this one waited for the lock.
     const SchemaState again = OpenAndInspect();
     if (again != SchemaState::kDamaged) return Accept(again, StoreOutcome::kCreated);
@@ -152,6 +155,7 @@ OpenedStore CStoreOpener::FallBack(StoreOutcome outcome) {
 
 OpenedStore CStoreOpener::Finish(StoreOutcome outcome) {
     m_parts->connection.Execute("PRAGMA synchronous = FULL");
+    m_parts->connection.Trust();
     m_parts->suspectMark = m_suspectMark;
     return {std::unique_ptr<CDeviceStore>(new CDeviceStore(std::move(m_parts))), outcome, std::nullopt};
 }

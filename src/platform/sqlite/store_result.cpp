@@ -28,6 +28,8 @@ StoreResult ToStoreResult(int sqliteCode) {
             return StoreResult::kRefused;
         case SQLITE_CANTOPEN:
             return StoreResult::kNoAccess;
+        case SQLITE_ERROR:
+            return StoreResult::kRejected;
         default:
             return StoreResult::kFailed;
     }

@@ -12,6 +12,7 @@ enum class StoreResult {
     kFull,      ///< no room on the disk or in memory
     kRefused,   ///< a constraint forbids the write
     kNoAccess,  ///< the file cannot be opened or made
+    kRejected,  ///< the statement names a table or column that is not there
     kFailed     ///< anything else
 };
 

@@ -1,0 +1,69 @@
+#include <cstdlib>
+
+#include "platform/posix/frozen_clock.h"
+#include "platform/posix/system_clock.h"
+
+namespace rlx {
+namespace {
+
+/// Sets TZ and puts the old value back.
+class CZone {
+public:
+    explicit CZone(const char* zone) {
+        if (const char* old = std::getenv("TZ")) m_old = old;
+        setenv("TZ", zone, 1);
+    }
+    ~CZone() { m_old ? setenv("TZ", m_old->c_str(), 1) : unsetenv("TZ"); }
+    CZone(const CZone&) = delete;
+    CZone& operator=(const CZone&) = delete;
+
+private:
+    std::optional<std::string> m_old;
+};
+
+TEST(SystemClock, TheBiasIsThatOfStandardTimeAllYear) {
+    // Rules in full, so that no zone files are needed; the last row counts its winter as the exception.
+    const struct {
+        const char* zone;
+        int bias;
+    } rows[] = {{"UTC0", 0},
+                {"CET-1CEST,M3.5.0,M10.5.0/3", -60},
+                {"EST5EDT,M3.2.0,M11.1.0", 300},
+                {"AEST-10AEDT,M10.1.0,M4.1.0/3", -600},
+                {"<+0545>-5:45", -345},
+                {"<-0330>3:30<-0230>,M3.2.0,M11.1.0", 210},
+                {"IST-1GMT0,M10.5.0,M3.5.0/1", 0}};
+    for (const auto& row : rows) {
+        const CZone zone(row.zone);
+        EXPECT_EQ(CSystemClock().StandardBias(), row.bias) << row.zone;
+    }
+}
+
+TEST(SystemClock, ShowsTheTimeOfItsZone) {
+    std::int64_t utc = 0;
+    {
+        const CZone zone("UTC0");
+        utc = SecondNumber(CSystemClock().Now());
+    }
+    const CZone zone("<+1345>-13:45");
+    const DateTime local = CSystemClock().Now();
+    EXPECT_TRUE(IsValid(local));
+    const std::int64_t ahead = SecondNumber(local) - utc;
+    EXPECT_GE(ahead, 13 * 3600 + 45 * 60);
+    EXPECT_LT(ahead, 14 * 3600);
+}
+
+TEST(FrozenClock, ReplacesOnlyWhatIsGiven) {
+    const DateTime fixed{.date = {2024, 2, 29}, .hour = 23};
+    const CSystemClock system;
+    const CFrozenClock both(system, fixed, -330);
+    EXPECT_EQ(both.Now(), fixed);
+    EXPECT_EQ(both.StandardBias(), -330);
+    const CFrozenClock outer(both, std::nullopt, 60);
+    EXPECT_EQ(outer.Now(), fixed);
+    EXPECT_EQ(outer.StandardBias(), 60);
+    EXPECT_EQ(CFrozenClock(both, DateTime{}, std::nullopt).StandardBias(), -330);
+}
+
+}  // namespace
+}  // namespace rlx
