@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <string_view>
 
-#include "feeds/feed_settings.h"
-#include "feeds/setting_names.h"
+#include "shell/registry_store.h"
+#include "shell/setting_names.h"
 
 namespace rlx {
 
 namespace {
 
-constexpr std::array<const char16_t*, kConverterPairs> kNames = {u"curp", u"curp2", u"curp3"};
 constexpr std::array<std::u16string_view, kConverterPairs> kUsualTargets = {u"EUR", u"GBP", u"JPY"};
 constexpr std::u16string_view kUsualSource = u"USD";
 constexpr std::size_t kMostPositions = 0xFFFF;
@@ -36,17 +35,15 @@ std::optional<CurrencyPair> DecodePair(std::uint32_t number, std::size_t count) 
 }
 
 CurrencyPair CConverterPairs::Read(std::size_t row, const CurrencyList& currencies) {
-    CFeedSettings settings(m_registry);
-    if (!m_registry.KeyExists(RegistryRoot::kLocalMachine, kKeyCurrencies))
-        settings.SetNumber(kKeyCurrencies, kNames.at(row), 0);
-    const std::uint32_t number = settings.Number(kKeyCurrencies, kNames.at(row)).value_or(0);
+    const std::uint32_t number = CRegistryStore(m_registry).ReadDwordOr(keys::kCurrencies, names::kPairs[row], 0);
     const std::optional<CurrencyPair> pair = DecodePair(number, currencies.size());
     if (pair) return *pair;
     return {PositionOf(currencies, kUsualSource), PositionOf(currencies, kUsualTargets.at(row))};
 }
 
 void CConverterPairs::Write(std::size_t row, const CurrencyPair& pair) {
-    CFeedSettings(m_registry).SetNumber(kKeyCurrencies, kNames.at(row), EncodePair(pair));
+    CRegistryStore(m_registry)
+        .WriteDword(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kPairs[row], EncodePair(pair));
 }
 
 }  // namespace rlx

@@ -32,9 +32,9 @@ class CConverterPairs {
 public:
     explicit CConverterPairs(IRegistry& registry) : m_registry(registry) {}
 
-    /// The pair of a row (0 to 2). Without a valid choice it is the row's usual pair: dollars to euros, pounds, yen;
-    /// the first currency stands for one that the list lacks. When the key is missing, 0 is written so that it comes to
-    /// be.
+    /// The pair of a row, which is below `kConverterPairs`. Without a valid choice it is the row's usual pair: dollars
+    /// to euros, pounds, yen; the first currency stands for one that the list lacks. When the key is missing, 0 is
+    /// written so that it comes to be.
     CurrencyPair Read(std::size_t row, const CurrencyList& currencies);
 
     void Write(std::size_t row, const CurrencyPair& pair);

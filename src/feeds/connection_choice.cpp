@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "feeds/setting_names.h"
 #include "feeds/standard_networks.h"
+#include "shell/setting_names.h"
 
 namespace rlx {
 
@@ -58,7 +58,8 @@ std::optional<Guid> CConnectionChooser::ChooseConnection(bool quiet, CHeldConnec
 
 bool CConnectionChooser::MayUse(const Destination& destination, bool quiet) {
     if (quiet) return true;
-    const std::u16string agreed = m_settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, kValueAgreed);
+    const std::u16string agreed =
+        m_settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kAgreedConnections);
     const std::u16string entry = GuidText(destination.guid) + u";";
     if ((u";" + agreed).find(u";" + entry) != std::u16string::npos) return true;
     return Ask(destination);
@@ -75,8 +76,10 @@ bool CConnectionChooser::Ask(const Destination& destination) {
     bool never = false;
     if (m_boxes.ShowWithCheck(box, m_texts.Text(kTextDontAskForConnection), never) != BoxAnswer::kYes) return false;
     if (never) {
-        const std::u16string agreed = m_settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, kValueAgreed);
-        m_settings.SetText(kKeyApplication, kValueAgreed, agreed + GuidText(destination.guid) + u";");
+        const std::u16string agreed =
+            m_settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kAgreedConnections);
+        m_settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kAgreedConnections,
+                               agreed + GuidText(destination.guid) + u";");
     }
     return true;
 }

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "feeds/feed_settings.h"
 #include "platform/connection_manager.h"
 #include "platform/message_boxes.h"
+#include "shell/registry_store.h"
 #include "shell/texts.h"
 
 namespace rlx {
@@ -30,7 +30,7 @@ private:
 /// Picks the network for a request and asks the user whether it may be used.
 class CConnectionChooser {
 public:
-    CConnectionChooser(IConnectionManager& connections, CFeedSettings& settings, IMessageBoxes& boxes,
+    CConnectionChooser(IConnectionManager& connections, CRegistryStore& settings, IMessageBoxes& boxes,
                        const ITexts& texts)
         : m_connections(connections), m_settings(settings), m_boxes(boxes), m_texts(texts) {}
 
@@ -50,7 +50,7 @@ private:
     void ReportNone(const std::optional<Guid>& probe, const std::u16string& list);
 
     IConnectionManager& m_connections;
-    CFeedSettings& m_settings;
+    CRegistryStore& m_settings;
     IMessageBoxes& m_boxes;
     const ITexts& m_texts;
 };

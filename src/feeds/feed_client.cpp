@@ -9,7 +9,7 @@
 #include "feeds/reply_body.h"
 #include "feeds/reply_headers.h"
 #include "feeds/server_verdict.h"
-#include "feeds/setting_names.h"
+#include "shell/setting_names.h"
 
 namespace rlx {
 
@@ -56,7 +56,8 @@ FeedReply CFeedClient::PostFeedRequest(std::u16string_view url, std::u16string_v
 
 FeedReply CFeedClient::Exchange(std::u16string_view url, const std::u16string& parameters, bool quiet,
                                 IHttpObserver* observer) {
-    const std::u16string session = m_settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, kValueSession);
+    const std::u16string session =
+        m_settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kSession);
     HttpPost post;
     post.agent = kAgent;
     post.headers = HeaderBlock(session);
@@ -109,7 +110,7 @@ FeedReply CFeedClient::TakeReply(IHttpReply& reply, const std::u16string& stored
         m_ports.boxes.Show({m_ports.texts.Text(kTextAppName), verdict.message, BoxIcon::kExclamation, BoxButtons::kOk});
     }
     if (storedSession.empty() || headers.session != storedSession)
-        m_settings.SetText(kKeyApplication, kValueSession, headers.session);
+        m_settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kSession, headers.session);
     if (!verdict.readBody) return {{}, FeedOutcome::kNotUnderstood};
     std::optional<std::u16string> body = ReadReplyBody(reply);
     if (!body) return Fail(reply.Failure());
@@ -118,15 +119,15 @@ FeedReply CFeedClient::TakeReply(IHttpReply& reply, const std::u16string& stored
 
 void CFeedClient::MarkNews(const std::u16string& newsId, bool quiet) {
     if (quiet) {
-        m_settings.SetText(kKeyApplication, kValueNewsId, newsId);
+        m_settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, newsId);
         return;
     }
-    std::u16string stored = m_settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, kValueNewsId);
+    std::u16string stored = m_settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId);
     if (stored.empty()) {
         stored = u"0";
-        m_settings.SetText(kKeyApplication, kValueNewsId, stored);
+        m_settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, stored);
     }
-    m_settings.SetNumber(kKeyApplication, kValueNewNews, newsId == stored ? 0 : 1);
+    m_settings.WriteDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewNews, newsId == stored ? 0 : 1);
 }
 
 void CFeedClient::ShowError(int text) {

@@ -6,12 +6,12 @@
 #include <string_view>
 
 #include "feeds/connection_choice.h"
-#include "feeds/feed_settings.h"
 #include "feeds/http_url.h"
 #include "platform/connection_manager.h"
 #include "platform/http_session.h"
 #include "platform/message_boxes.h"
 #include "platform/registry.h"
+#include "shell/registry_store.h"
 #include "shell/texts.h"
 
 namespace rlx {
@@ -71,7 +71,7 @@ private:
     FeedReply Fail(std::uint32_t code);
 
     FeedPorts m_ports;
-    CFeedSettings m_settings;
+    CRegistryStore m_settings;
     CConnectionChooser m_chooser;
 };
 

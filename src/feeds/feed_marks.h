@@ -2,9 +2,10 @@
 
 #include <array>
 #include <optional>
+#include <string_view>
 
-#include "feeds/setting_names.h"
 #include "platform/registry.h"
+#include "shell/setting_names.h"
 
 namespace rlx {
 
@@ -17,7 +18,7 @@ public:
     void Restore();
 
 private:
-    static constexpr std::array<const char16_t*, 3> kNames = {kValueSession, kValueNewsId, kValueNewNews};
+    static constexpr std::array<std::u16string_view, 3> kNames = {names::kSession, names::kNewsId, names::kNewNews};
 
     IRegistry& m_registry;
     std::array<std::optional<RegistryValue>, kNames.size()> m_values;

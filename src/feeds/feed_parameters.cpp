@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "base/number.h"
-#include "feeds/setting_names.h"
+#include "shell/setting_names.h"
 
 namespace rlx {
 
@@ -19,7 +19,7 @@ std::u16string SizeText(PixelSize size) {
 }  // namespace
 
 CFeedParameters::CFeedParameters(IRegistry& registry, FeedDevice device, AskOwner askOwner)
-    : m_settings(registry), m_device(std::move(device)), m_askOwner(std::move(askOwner)) {}
+    : m_registry(registry), m_device(std::move(device)), m_askOwner(std::move(askOwner)) {}
 
 std::u16string CFeedParameters::CurrencyParameters(std::u16string_view home, PixelSize workArea) const {
     return Compose(u"&jc=110", home, workArea);
@@ -31,12 +31,13 @@ std::u16string CFeedParameters::WeatherParameters(std::u16string_view city, Pixe
 }
 
 std::u16string CFeedParameters::NewsParameters() const {
-    const std::u16string newsId = m_settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, kValueNewsId);
+    const std::u16string newsId =
+        CRegistryStore(m_registry).ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId);
     return Compose(u"&jc=115&cnid=" + newsId, HomeName(), m_device.workArea).append(kClosing);
 }
 
 std::u16string CFeedParameters::HomeName() const {
-    return m_settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, kValueHomeName);
+    return CRegistryStore(m_registry).ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kHomeName);
 }
 
 std::u16string CFeedParameters::Compose(std::u16string_view job, std::u16string_view home, PixelSize workArea) const {
@@ -53,10 +54,11 @@ std::u16string CFeedParameters::Compose(std::u16string_view job, std::u16string_
 }
 
 std::u16string CFeedParameters::OwnerName() const {
-    std::u16string owner = m_settings.Text(RegistryRoot::kCurrentUser, kKeyOwner, kValueOwner);
+    std::u16string owner =
+        CRegistryStore(m_registry).ReadString(RegistryRoot::kCurrentUser, keys::kOwner, names::kOwnerName);
     if (owner.empty() && m_askOwner) {
         m_askOwner();
-        owner = m_settings.Text(RegistryRoot::kCurrentUser, kKeyOwner, kValueOwner);
+        owner = CRegistryStore(m_registry).ReadString(RegistryRoot::kCurrentUser, keys::kOwner, names::kOwnerName);
     }
     return owner.substr(0, kMaxOwner);
 }

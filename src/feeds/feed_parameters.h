@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "feeds/feed_device.h"
-#include "feeds/feed_settings.h"
 #include "platform/registry.h"
+#include "shell/registry_store.h"
 
 namespace rlx {
 
@@ -37,7 +37,7 @@ private:
     std::u16string Compose(std::u16string_view job, std::u16string_view home, PixelSize workArea) const;
     std::u16string OwnerName() const;
 
-    CFeedSettings m_settings;
+    IRegistry& m_registry;
     FeedDevice m_device;
     AskOwner m_askOwner;
 };

@@ -4,7 +4,7 @@
 #include "base/text.h"
 #include "feeds/http_url.h"
 #include "feeds/rates_reply.h"
-#include "feeds/setting_names.h"
+#include "shell/setting_names.h"
 
 namespace rlx {
 
@@ -70,11 +70,13 @@ std::optional<std::size_t> CRatesUpdate::Store(CCurrencyDatabase& database, std:
 }
 
 void CRatesUpdate::Remember(CCurrencyDatabase& database, std::u16string_view url) {
-    CFeedSettings settings(m_ports.registry);
+    CRegistryStore settings(m_ports.registry);
     const std::optional<Date> date = database.LastModifiedDate();
-    if (date) settings.SetText(kKeyCurrencies, kValueRatesDate, SortableDate(*date));
+    if (date)
+        settings.WriteString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesDate, SortableDate(*date));
     const std::optional<HttpUrl> address = ParseHttpUrl(url);
-    if (address) settings.SetText(kKeyCurrencies, kValueRatesSource, Widen(address->host));
+    if (address)
+        settings.WriteString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesSource, Widen(address->host));
 }
 
 void CRatesUpdate::ShowError(int text) {

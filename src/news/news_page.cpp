@@ -4,7 +4,7 @@
 
 #include "base/text.h"
 #include "feeds/news_fetch.h"
-#include "feeds/setting_names.h"
+#include "shell/setting_names.h"
 
 namespace rlx {
 
@@ -36,8 +36,8 @@ void CNewsPage::Show(INewsView& view) {
             view.AddText(piece);
         view.EndOfSource();
     }
-    m_settings.SetNumber(kKeyApplication, kValueNewNews, 0);
-    m_settings.SetNumber(kKeyApplication, kValueNewsRead, 1);
+    m_settings.WriteDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewNews, 0);
+    m_settings.WriteDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsRead, 1);
 }
 
 std::u16string CNewsPage::Html() {
@@ -49,12 +49,12 @@ std::u16string CNewsPage::Html() {
     return page;
 }
 
-NewsState CNewsPage::State() const {
+NewsState CNewsPage::State() {
     NewsState state;
-    state.newsId = m_settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, kValueNewsId);
+    state.newsId = m_settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId);
     if (state.newsId.empty()) state.newsId = u"0";
-    state.newNews = m_settings.Number(kKeyApplication, kValueNewNews).value_or(0) != 0;
-    state.newsRead = m_settings.Number(kKeyApplication, kValueNewsRead).value_or(0) != 0;
+    state.newNews = m_settings.ReadDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewNews) != 0;
+    state.newsRead = m_settings.ReadDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsRead) != 0;
     return state;
 }
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "feeds/feed_settings.h"
 #include "platform/file_system.h"
 #include "platform/registry.h"
+#include "shell/registry_store.h"
 #include "shell/texts.h"
 
 namespace rlx {
@@ -40,14 +40,14 @@ public:
     /// The page as one text, each byte of the file one character; the flags stay as they are.
     std::u16string Html();
 
-    NewsState State() const;
+    NewsState State();
 
 private:
     std::filesystem::path File() const;
     /// The page that says that nothing was fetched yet, as it is handed to the view.
     std::vector<std::u16string> EmptyPage() const;
 
-    CFeedSettings m_settings;
+    CRegistryStore m_settings;
     IFileSystem& m_files;
     const ITexts& m_texts;
     std::filesystem::path m_folder;

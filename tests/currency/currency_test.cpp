@@ -4,9 +4,9 @@
 #include "currency/converter_pairs.h"
 #include "currency/currency_convert.h"
 #include "currency/currency_search.h"
-#include "feeds/feed_settings.h"
-#include "feeds/setting_names.h"
 #include "platform/fake/memory_registry.h"
+#include "shell/registry_store.h"
+#include "shell/setting_names.h"
 
 namespace rlx::test {
 namespace {
@@ -73,15 +73,15 @@ TEST(ConverterPairs, AreKeptInOneNumber) {
 TEST(ConverterPairs, StartWithUsualOnes) {
     CMemoryRegistry registry;
     CConverterPairs pairs(registry);
-    CFeedSettings settings(registry);
+    CRegistryStore settings(registry);
     EXPECT_EQ(pairs.Read(0, kList), (CurrencyPair{5, 1}));
-    EXPECT_EQ(settings.Number(kKeyCurrencies, u"curp"), 0U);
+    EXPECT_EQ(settings.ReadDword(RegistryRoot::kLocalMachine, keys::kCurrencies, u"curp"), 0U);
     EXPECT_EQ(pairs.Read(1, kList), (CurrencyPair{5, 4}));
-    EXPECT_FALSE(settings.Number(kKeyCurrencies, u"curp2"));
+    EXPECT_FALSE(registry.Query(RegistryRoot::kLocalMachine, keys::kCurrencies, u"curp2"));
     EXPECT_EQ(pairs.Read(2, {}), (CurrencyPair{0, 0}));
     pairs.Write(2, {3, 0});
     EXPECT_EQ(pairs.Read(2, kList), (CurrencyPair{3, 0}));
-    EXPECT_EQ(settings.Number(kKeyCurrencies, u"curp3"), 0x00010004U);
+    EXPECT_EQ(settings.ReadDword(RegistryRoot::kLocalMachine, keys::kCurrencies, u"curp3"), 0x00010004U);
     EXPECT_EQ(pairs.Read(2, {kList[5]}), (CurrencyPair{0, 0}));
 }
 

@@ -217,15 +217,15 @@ TEST(FeedClient, WhatTheUserSeesAndTheRegistryHolds) {
         SCOPED_TRACE(row.name);
         FeedWorld world;
         CScriptedServer server(row.script);
-        world.settings.SetText(kKeyApplication, kValueSession, u"old");
-        world.settings.SetText(kKeyApplication, kValueNewsId, u"7");
+        world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kSession, u"old");
+        world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, u"7");
         const FeedReply reply = world.client.PostFeedRequest(server.Url(), u"did=a", false);
         EXPECT_EQ(reply.outcome, row.outcome);
         EXPECT_EQ(Narrow(reply.body), row.body);
         EXPECT_EQ(world.Messages(), row.messages);
-        EXPECT_EQ(world.Text(kValueSession), row.session);
-        EXPECT_EQ(world.Text(kValueNewsId), row.newsId);
-        EXPECT_EQ(world.Flag(kValueNewNews), row.newNews);
+        EXPECT_EQ(world.Text(names::kSession), row.session);
+        EXPECT_EQ(world.Text(names::kNewsId), row.newsId);
+        EXPECT_EQ(world.Flag(names::kNewNews), row.newNews);
         EXPECT_EQ(server.Requests().size(), row.requests);
         EXPECT_EQ(world.connections.held, 0);
     }
@@ -251,7 +251,7 @@ TEST(FeedClient, SendsHeadersAndBodyInOrder) {
 
 TEST(FeedClient, SendsTheSameAgainAfterARedirect) {
     FeedWorld world;
-    world.settings.SetText(kKeyApplication, kValueSession, u"S0");
+    world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kSession, u"S0");
     CScriptedServer server({{"HTTP/1.1 303 See\r\nLocation: SELF/new\r\n\r\n"}, {FeedReplyBytes("a")}});
     world.client.PostFeedRequest(server.Url(), u"did=a", true);
     const std::vector<std::string> requests = server.Requests();
@@ -276,20 +276,20 @@ TEST(FeedClient, QuietStoresTheNewsIdentifierAndAsksNothing) {
     FeedWorld world;
     CScriptedServer server({{FeedReplyBytes("a", "1005", "abc 12")}, {FeedReplyBytes("a", "1005", "13")}});
     world.client.PostFeedRequest(server.Url(), u"", true);
-    EXPECT_EQ(world.Text(kValueNewsId), "abc 12");
-    EXPECT_EQ(world.Flag(kValueNewNews), -1);
+    EXPECT_EQ(world.Text(names::kNewsId), "abc 12");
+    EXPECT_EQ(world.Flag(names::kNewNews), -1);
     EXPECT_TRUE(world.boxes.shown.empty());
     world.client.PostFeedRequest(server.Url(), u"", false);
-    EXPECT_EQ(world.Text(kValueNewsId), "abc 12");
-    EXPECT_EQ(world.Flag(kValueNewNews), 1);
+    EXPECT_EQ(world.Text(names::kNewsId), "abc 12");
+    EXPECT_EQ(world.Flag(names::kNewNews), 1);
 }
 
 TEST(FeedClient, WithoutAKnownIdentifierTheNewsCountAsZero) {
     FeedWorld world;
     CScriptedServer server({{FeedReplyBytes("a", "1005", "0")}});
     world.client.PostFeedRequest(server.Url(), u"", false);
-    EXPECT_EQ(world.Text(kValueNewsId), "0");
-    EXPECT_EQ(world.Flag(kValueNewNews), 0);
+    EXPECT_EQ(world.Text(names::kNewsId), "0");
+    EXPECT_EQ(world.Flag(names::kNewNews), 0);
 }
 
 TEST(FeedClient, CutsTheBodyAtTheLastLineThatFits) {
@@ -374,16 +374,16 @@ TEST(FeedClient, CancelLeavesEverythingAsItWas) {
     const std::string reply = FeedReplyBytes(std::string(200, 'x'), "1005", "9");
     for (const std::size_t stopAt : {std::size_t{0}, std::size_t{100}}) {
         FeedWorld world;
-        world.settings.SetText(kKeyApplication, kValueNewsId, u"7");
+        world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, u"7");
         CScriptedServer server({{reply.substr(0, reply.size() - 50), Ending::kHold}});
         CStopAt observer(stopAt);
         const FeedReply got = world.client.PostFeedRequest(server.Url(), u"", false, &observer);
         EXPECT_EQ(got.outcome, FeedOutcome::kCancelled);
         EXPECT_TRUE(got.body.empty());
         EXPECT_TRUE(world.Messages().empty());
-        EXPECT_EQ(world.Text(kValueSession), "(none)");
-        EXPECT_EQ(world.Text(kValueNewsId), "7");
-        EXPECT_EQ(world.Flag(kValueNewNews), -1);
+        EXPECT_EQ(world.Text(names::kSession), "(none)");
+        EXPECT_EQ(world.Text(names::kNewsId), "7");
+        EXPECT_EQ(world.Flag(names::kNewNews), -1);
         EXPECT_EQ(world.connections.held, 0);
     }
 }

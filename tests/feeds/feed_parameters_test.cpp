@@ -20,10 +20,10 @@ void SetOwner(IRegistry& registry, const std::u16string& owner) {
 
 TEST(FeedParameters, TheThreeStrings) {
     CMemoryRegistry registry;
-    CFeedSettings settings(registry);
+    CRegistryStore settings(registry);
     SetOwner(registry, u"Ann O'Nym & Co");
-    settings.SetText(u"Roamlytix", u"newsid", u"n 42");
-    settings.SetText(u"Roamlytix", u"hlname", u"São Paulo");
+    settings.WriteString(RegistryRoot::kLocalMachine, u"Roamlytix", u"newsid", u"n 42");
+    settings.WriteString(RegistryRoot::kLocalMachine, u"Roamlytix", u"hlname", u"São Paulo");
     const CFeedParameters parameters(registry, kDevice);
     const std::u16string id = DeviceNumber(u"Ann O'Nym & Co", kDevice);
     const std::u16string head = u"did=Ann O'Nym & Co";

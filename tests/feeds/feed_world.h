@@ -5,11 +5,11 @@
 
 #include "base/text.h"
 #include "feeds/feed_client.h"
-#include "feeds/setting_names.h"
 #include "feeds/standard_networks.h"
 #include "platform/curl/curl_http_session.h"
 #include "platform/fake/fake_connection_manager.h"
 #include "platform/fake/memory_registry.h"
+#include "shell/setting_names.h"
 #include "support/feed_texts.h"
 #include "support/recorded_boxes.h"
 #include "support/scripted_server.h"
@@ -40,14 +40,14 @@ struct FeedWorld {
         connections.probe = kNetworkInternet;
     }
 
-    std::string Text(const char16_t* name) {
-        return registry.Query(RegistryRoot::kLocalMachine, kKeyApplication, name)
-                   ? Narrow(settings.Text(RegistryRoot::kLocalMachine, kKeyApplication, name))
+    std::string Text(std::u16string_view name) {
+        return registry.Query(RegistryRoot::kLocalMachine, keys::kRoamlytix, name)
+                   ? Narrow(settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, name))
                    : "(none)";
     }
-    int Flag(const char16_t* name) {
-        const auto number = settings.Number(kKeyApplication, name);
-        return number ? static_cast<int>(*number) : -1;
+    int Flag(std::u16string_view name) {
+        const auto number = static_cast<int>(settings.ReadDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, name));
+        return settings.Status() == ReadStatus::kRead ? number : -1;
     }
     /// Every box but the confirmations.
     std::vector<std::string> Messages() const {
@@ -59,7 +59,7 @@ struct FeedWorld {
     }
 
     CMemoryRegistry registry;
-    CFeedSettings settings{registry};
+    CRegistryStore settings{registry};
     CFakeConnectionManager connections;
     CRecordedBoxes boxes;
     CFeedTexts texts;

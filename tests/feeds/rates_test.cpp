@@ -209,8 +209,10 @@ TEST(RatesUpdate, TheLabelChangesWithTheDay) {
     const RatesUpdateResult third = world.Update(server);
     EXPECT_EQ(third.label, std::nullopt);
     EXPECT_EQ(third.rates, 0U);
-    EXPECT_EQ(world.settings.Text(RegistryRoot::kLocalMachine, kKeyCurrencies, kValueRatesDate), u"2026-03-02");
-    EXPECT_EQ(world.settings.Text(RegistryRoot::kLocalMachine, kKeyCurrencies, kValueRatesSource), u"127.0.0.1");
+    EXPECT_EQ(world.settings.ReadString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesDate),
+              u"2026-03-02");
+    EXPECT_EQ(world.settings.ReadString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesSource),
+              u"127.0.0.1");
 }
 
 TEST(RatesUpdate, TheLabelFitsTheScreen) {

@@ -21,8 +21,8 @@ public:
 struct NewsWorld : FeedWorld {
     std::string Page() { return files.ReadFile(folder.Path() / "news.htm", 1 << 20).value_or("(none)"); }
     std::string Flags() {
-        return Text(kValueNewsId) + " " + std::to_string(Flag(kValueNewNews)) + " " +
-               std::to_string(Flag(kValueNewsRead));
+        return Text(names::kNewsId) + " " + std::to_string(Flag(names::kNewNews)) + " " +
+               std::to_string(Flag(names::kNewsRead));
     }
 
     CTempFolder folder;
@@ -51,7 +51,7 @@ TEST(NewsFetch, KeepsThePageAndTheFlags) {
 
 TEST(NewsFetch, APageThatCannotBeSavedIsStillNew) {
     NewsWorld world;
-    world.settings.SetText(kKeyApplication, kValueNewsId, u"11");
+    world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, u"11");
     CScriptedServer server({{FeedReplyBytes("page", "1005", "12")}});
     CNewsFetch fetch(world.ports, world.files, world.folder.Path() / "gone");
     EXPECT_FALSE(fetch.Fetch(server.Url(), u"").saved);
@@ -62,7 +62,7 @@ TEST(NewsFetch, APageThatCannotBeSavedIsStillNew) {
 TEST(NewsPage, ShowsThePageOrThatThereIsNone) {
     NewsWorld world;
     CRecordedView view;
-    world.settings.SetNumber(kKeyApplication, kValueNewNews, 1);
+    world.settings.WriteDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewNews, 1);
     world.page.Show(view);
     EXPECT_EQ(view.said, (std::vector<std::string>{"clear", "add <HTML><TITLE></TITLE>", "add <BODY><P>",
                                                    "add No news...<BR>", "add </BODY></HTML>", "end"}));
