@@ -53,6 +53,7 @@ std::vector<std::size_t> SearchCurrencies(std::u16string_view typed, const Curre
     }
     std::stable_sort(ranked.begin(), ranked.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
     std::vector<std::size_t> positions;
+    positions.reserve(ranked.size());
     for (const auto& [rank, position] : ranked)
         positions.push_back(position);
     return positions;
