@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "support/memory_files.h"
 #include "skins/skin_schema.h"
+#include "support/memory_files.h"
 
 namespace rlx::test {
 
