@@ -11,6 +11,7 @@
 #include "shell/program_paths.h"
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
+#include "skins/skin_loader.h"
 #include "uikit/qt_text.h"
 #include "uikit/template_dialog.h"
 
@@ -27,14 +28,16 @@ CApplication::CApplication(const WindowOptions& options)
     : m_options(options),
       m_clock(m_systemClock, options.now, options.bias),
       m_windowBoxes(m_resources),
-      m_boxes(options.quiet ? static_cast<IMessageBoxes&>(m_silentBoxes) : m_windowBoxes) {
+      m_boxes(options.quiet ? static_cast<IMessageBoxes&>(m_silentBoxes) : m_windowBoxes),
+      m_look(m_files, m_codec) {
     OpenStore();
     OpenFolder();
     m_window = std::make_unique<CMainWindow>(m_clock, m_resources);
     m_windowBoxes.SetOwner(m_window.get());
     MakeScreens();
     MakeCommands();
-    ApplyLook();
+    connect(&m_look, &CLook::Changed, this, &CApplication::ApplyLook);
+    LoadSkin();
     RestoreScreen();
 }
 
@@ -114,8 +117,18 @@ void CApplication::RestoreScreen() {
     m_window->ShowScreen(known ? static_cast<int>(stored) : 0);
 }
 
+/// Every screen paints anew when the look changes; dialogs and the frame take the palette.
+void CApplication::LoadSkin() {
+    const auto write = [this](std::u16string_view setting) {
+        m_settings->WriteString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kSkin, setting);
+    };
+    CSkinLoader loader(m_files, m_folder->Root(), m_resources, m_boxes, write);
+    m_look.SetSkin(loader.Load(m_settings->ReadString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kSkin)));
+}
+
 void CApplication::ApplyLook() {
-    m_window->SetColours({m_look.Bar(), m_look.BarText(), m_look.Accent()});
+    QApplication::setPalette(m_look.Palette());
+    m_window->SetColours({m_look.Bar(), m_look.PanelText(), m_look.Accent()});
 }
 
 std::optional<CityIndex> CApplication::ChooseCity(QWidget* parent, const QString& title, CityIndex current) {

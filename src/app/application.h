@@ -10,6 +10,7 @@
 #include "base/calendar.h"
 #include "clocks/ui/clocks_screen.h"
 #include "places/city_database.h"
+#include "platform/image/image_codec.h"
 #include "platform/posix/frozen_clock.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/system_clock.h"
@@ -52,6 +53,7 @@ private:
     void MakeScreens();
     void MakeCommands();
     void RestoreScreen();
+    void LoadSkin();
     void ApplyLook();
     void UpdateChecks();
     void ToggleSetting(std::u16string_view key, std::u16string_view name);
@@ -68,6 +70,7 @@ private:
     CQtMessageBoxes m_windowBoxes;
     CSilentMessageBoxes m_silentBoxes;
     IMessageBoxes& m_boxes;  ///< one of the two
+    CImageCodec m_codec;
     CLook m_look;
     std::unique_ptr<CDeviceStore> m_store;
     std::optional<CRegistryStore> m_settings;

@@ -91,14 +91,14 @@ void CAnswer::Table(const std::vector<std::vector<std::u16string>>& rows) {
 
 void CAnswer::Write(bool json, const std::vector<AnsweredBox>& messages) const {
     if (!json) {
-        std::cout << m_text << std::flush;
+        std::cout << m_text;
         return;
     }
     Json object = m_members;
     object["messages"] = Json::array();
     for (const AnsweredBox& shown : messages)
         object["messages"].push_back(ToJson(shown));
-    std::cout << object.dump(2, ' ', false, Json::error_handler_t::replace) << '\n' << std::flush;
+    std::cout << object.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
 }  // namespace rlx::cli

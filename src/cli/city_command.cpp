@@ -56,9 +56,10 @@ int Find(CSession& session, CAnswer& answer, const std::string& text) {
 }
 
 int Rebuild(CSession& session, CAnswer& answer) {
-    CCityDatabase& cities = session.Cities();
+    CCityDatabase& cities = session.CitiesAsTheyAre();
     const CityListState state = cities.Rebuild();
-    if (state == CityListState::kNotWritten) return session.Fail(session.Text(kTextFileNotSaved, u"rlxCities"));
+    const bool lost = state == CityListState::kReady && !session.KeepsChanges();
+    if (state == CityListState::kNotWritten || lost) return session.Fail(session.Text(kTextFileNotSaved, u"rlxCities"));
     if (state != CityListState::kReady) return kFailed;
     answer.Set("count", cities.Count());
     answer.Line(std::to_string(cities.Count()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <cstdint>
 #include <functional>
 #include <string>
 
@@ -30,5 +31,15 @@ struct Command {
 
 /// Declares a subcommand of `app` that sets `action` when it is named.
 CLI::App* DeclareSub(CLI::App& app, const char* name, const char* help, const SetAction& setAction, Action action);
+
+struct IntegerRange {
+    std::int64_t low = 0;
+    std::int64_t high = 0;
+};
+
+/// Adds an option or positional that is a decimal number within `range`, and nothing else: no octal, no fraction, not
+/// empty.
+CLI::Option* AddInteger(CLI::App& app, const std::string& name, IntegerRange range,
+                        std::function<void(std::int64_t)> take, const std::string& help);
 
 }  // namespace rlx::cli

@@ -22,7 +22,8 @@ void DeclareLang(CLI::App& app, const SetAction& setAction) {
     auto number = std::make_shared<int>(0);
     CLI::App* text = DeclareSub(app, "text", "one text of the language in force", setAction,
                                 [number](CSession& s, CAnswer& a) { return ShowText(s, a, *number); });
-    text->add_option("NUMBER", *number, "number of the text")->required()->check(CLI::Range(0, 65535));
+    const auto take = [number](std::int64_t value) { *number = static_cast<int>(value); };
+    AddInteger(*text, "NUMBER", {0, 65535}, take, "number of the text")->required();
 }
 
 }  // namespace rlx::cli

@@ -1,20 +1,40 @@
-#include <cstring>
+#include <algorithm>
 #include <iostream>
 #include <string>
 #include <vector>
 
 #include "cli/command.h"
 #include "cli/commands.h"
+#include "cli/standard_streams.h"
 
 namespace rlx::cli {
 
 namespace {
 
-/// The subcommand among the words, so that only its options need to be declared.
-const Command* Named(int count, char** words) {
+/// The words of the command line. "--text=" becomes two words, so that a value may be empty.
+std::vector<std::string> WordsOf(int count, char** words) {
+    std::vector<std::string> list;
     for (int i = 1; i < count; ++i) {
-        for (const Command& command : Commands()) {
-            if (std::strcmp(words[i], command.name) == 0) return &command;
+        std::string word = words[i];
+        const bool emptyValue = word.starts_with("--") && word.size() > 3 && word.find('=') == word.size() - 1;
+        if (emptyValue) word.pop_back();
+        list.push_back(std::move(word));
+        if (emptyValue) list.emplace_back();
+    }
+    return list;
+}
+
+/// The subcommand that the words name, so that only its options need to be declared: the first word that is neither a
+/// global option nor its value.
+const Command* Named(const CLI::App& app, const std::vector<std::string>& words) {
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const CLI::Option* option = app.get_option_no_throw(words[i]);
+        if (option != nullptr && option->get_items_expected_max() > 0) {
+            ++i;
+        } else if (!words[i].starts_with('-')) {
+            const auto isNamed = [&](const Command& command) { return words[i] == command.name; };
+            const auto found = std::find_if(Commands().begin(), Commands().end(), isNamed);
+            return found == Commands().end() ? nullptr : &*found;
         }
     }
     return nullptr;
@@ -31,9 +51,11 @@ void DeclareGlobals(CLI::App& app, GlobalOptions& options) {
            },
            "the device's local clock, frozen")
         ->type_name("TIME");
-    app.add_option("--bias", options.bias, "standard time-zone bias: UTC = local + bias")
-        ->type_name("MINUTES")
-        ->check(CLI::Range(-100000, 100000));
+    AddInteger(
+        app, "--bias", {-100000, 100000},
+        [&options](std::int64_t minutes) { options.bias = static_cast<int>(minutes); },
+        "standard time-zone bias: UTC = local + bias")
+        ->type_name("MINUTES");
     auto* yes = app.add_flag_callback(
         "--yes", [&options] { options.answer = GivenAnswer::kYes; }, "answer yes to every question");
     auto* no = app.add_flag_callback(
@@ -41,6 +63,18 @@ void DeclareGlobals(CLI::App& app, GlobalOptions& options) {
     yes->excludes(no);
     app.add_flag("--offline", options.offline, "behave as with no connection at all");
     app.add_flag("--json", options.json, "machine-readable output");
+    // As with most programs: said twice, the last one counts.
+    for (const char* name : {"--home", "--store", "--now", "--bias"})
+        app.get_option(name)->take_last();
+}
+
+/// "--dword NUMBER | --text TEXT" of a group of options of which one must be given.
+std::string Choices(const CLI::App& group) {
+    std::string words;
+    for (const CLI::Option* option :
+         group.get_options([](const CLI::Option* o) { return o->get_items_expected() > 0; }))
+        words += (words.empty() ? "" : " | ") + option->get_name() + " " + option->get_type_name();
+    return words;
 }
 
 /// One line that says how the command that was meant is used.
@@ -55,8 +89,12 @@ std::string Usage(const CLI::App& app) {
         const std::string name = option->get_name(true);
         words += option->get_required() ? " " + name : " [" + name + "]";
     }
-    const auto named = [](const CLI::App* sub) { return !sub->get_name().empty(); };
-    if (!at->get_subcommands(named).empty()) words += " COMMAND";
+    bool hasCommands = false;
+    for (const CLI::App* sub : at->get_subcommands([](const CLI::App*) { return true; })) {
+        hasCommands = hasCommands || !sub->get_name().empty();
+        if (sub->get_name().empty()) words += " (" + Choices(*sub) + ")";
+    }
+    if (hasCommands) words += " COMMAND";
     return "usage: " + words + " (rlx --help lists more)";
 }
 
@@ -84,44 +122,42 @@ int WrongUsage(const CLI::App& app, const CLI::ParseError& error, bool json) {
     return kWrongUsage;
 }
 
-int Run(int count, char** words) {
+int Run(int count, char** arguments) {
     CLI::App app("The travel companion on the command line.", "rlx");
     GlobalOptions options;
     Action action;
     DeclareGlobals(app, options);
     app.fallthrough();
     app.require_subcommand(1);
-    const Command* named = Named(count, words);
+    std::vector<std::string> words = WordsOf(count, arguments);
+    const Command* named = Named(app, words);
+    // What stands behind a wrong word may never be read, but the answer must have the form that was asked for.
+    const bool json = std::find(words.begin(), words.end(), "--json") != words.end();
     for (const Command& command : Commands()) {
         CLI::App* sub = app.add_subcommand(command.name, command.help);
         if (named == nullptr || named == &command)
             command.declare(*sub, [&action](Action given) { action = std::move(given); });
     }
     try {
-        app.parse(count, words);
+        std::reverse(words.begin(), words.end());  // the parser takes them from the back
+        app.parse(std::move(words));
     } catch (const CLI::Success& success) {
         return app.exit(success);
     } catch (const CLI::ParseError& error) {
-        return WrongUsage(app, error, options.json);
+        return WrongUsage(app, error, json);
     }
     CSession session(options);
     CAnswer answer;
     const int status = action(session, answer);
     answer.Write(options.json, session.Boxes().Shown());
-    return status;
+    return FlushStandardOutput() ? status : kFailed;
 }
 
 }  // namespace
 
-CLI::App* DeclareSub(CLI::App& app, const char* name, const char* help, const SetAction& setAction, Action action) {
-    CLI::App* sub = app.add_subcommand(name, help);
-    sub->fallthrough();
-    sub->callback([setAction, action = std::move(action)] { setAction(action); });
-    return sub;
-}
-
 }  // namespace rlx::cli
 
 int main(int count, char** words) {
+    rlx::cli::HoldStandardStreams();
     return rlx::cli::Run(count, words);
 }

@@ -31,9 +31,11 @@ struct CSession::Parts {
     CFrozenClock clock;
     std::optional<CApplicationFolder> folder;
     std::unique_ptr<CDeviceStore> store;
+    StoreOutcome outcome = StoreOutcome::kOpened;
     std::optional<CRegistryStore> settings;
     std::optional<ClockSettings> clockChoices;
     std::optional<CCityDatabase> cities;
+    bool citiesBuilt = false;
     std::optional<CCityTimes> times;
 };
 
@@ -55,10 +57,13 @@ const IClock& CSession::Clock() {
 const CApplicationFolder& CSession::Folder() {
     if (!m_parts->folder) {
         const FolderSources sources = ProgramFolders(m_options.home);
-        const auto folder = PrepareApplicationFolder(m_parts->files, sources);
-        if (!folder)
-            Fail(Text(kTextFolderNotReady, FromUtf8(FindApplicationFolder(m_parts->files, sources).folder.string())));
-        m_parts->folder.emplace(m_parts->files, folder.value_or(sources.executableFolder));
+        auto folder = PrepareApplicationFolder(m_parts->files, sources);
+        if (!folder) {
+            // Never another folder in its stead: its cities would stay in the store.
+            folder = FindApplicationFolder(m_parts->files, sources).folder;
+            Fail(Text(kTextFolderNotReady, FromUtf8(folder->string())));
+        }
+        m_parts->folder.emplace(m_parts->files, *folder);
     }
     return *m_parts->folder;
 }
@@ -68,6 +73,7 @@ CDeviceStore& CSession::Store() {
         const std::filesystem::path file = DeviceStoreFile(m_options.store);
         OpenedStore opened = OpenDeviceStore(file, m_parts->clock);
         m_parts->store = std::move(opened.store);
+        m_parts->outcome = opened.outcome;
         if (const auto box = StoreMessage(opened.outcome, file, opened.movedAside, m_resources)) m_boxes.Show(*box);
     }
     return *m_parts->store;
@@ -91,11 +97,24 @@ const ClockSettings& CSession::ClockChoices() {
     return *m_parts->clockChoices;
 }
 
+bool CSession::KeepsChanges() {
+    Store();
+    const StoreOutcome outcome = m_parts->outcome;
+    return outcome == StoreOutcome::kOpened || outcome == StoreOutcome::kCreated || outcome == StoreOutcome::kReplaced;
+}
+
 CCityDatabase& CSession::Cities() {
+    CCityDatabase& cities = CitiesAsTheyAre();
+    if (!m_parts->citiesBuilt && cities.EnsureCreated() == CityListState::kNotWritten)
+        Fail(Text(kTextFileNotSaved, u"rlxCities"));
+    m_parts->citiesBuilt = true;
+    return cities;
+}
+
+CCityDatabase& CSession::CitiesAsTheyAre() {
     if (!m_parts->cities) {
         const auto file = Folder().Path(u"\\cities.lst").value_or(Folder().Root() / "cities.lst");
         m_parts->cities.emplace(ObjectStore(), m_parts->files, m_boxes, m_resources, file);
-        m_parts->cities->EnsureCreated();
     }
     return *m_parts->cities;
 }

@@ -38,8 +38,15 @@ public:
     IObjectStore& ObjectStore();
     CRegistryStore& Settings();
 
+    /// False when nothing that is written now will be there at the next start; the store has said so when it was
+    /// opened.
+    bool KeepsChanges();
+
     /// The cities, built from "cities.lst" when the store has none yet.
     CCityDatabase& Cities();
+
+    /// The same without building them.
+    CCityDatabase& CitiesAsTheyAre();
     CCityTimes& Times();
     const ClockSettings& ClockChoices();
 
@@ -60,7 +67,7 @@ private:
     std::unique_ptr<Parts> m_parts;
 };
 
-/// The city that a word on the command line names: an index, or the beginning of a name or place, case ignored.
+/// The city that a word on the command line names: an index, or the beginning of a name, case ignored.
 /// Nothing when none or several fit; the session has then said why.
 std::optional<CityIndex> FindCity(CSession& session, const std::string& word);
 

@@ -72,26 +72,32 @@ std::string Shown(const Json& value) {
     return value.is_string() ? value.get<std::string>() : value.dump();
 }
 
-/// The value as the program itself would read it, so that the status is the program's own.
-std::optional<RegistryValue> Read(CSession& session, const std::u16string& key, const std::u16string& name) {
+struct ReadValue {
+    std::optional<RegistryValue> value;
+    ReadStatus status = ReadStatus::kRead;
+};
+
+/// The value as the program itself would read it, so that the status is the program's own. It has no reader for bytes:
+/// they count as read when they are there.
+ReadValue Read(CSession& session, const std::u16string& key, const std::u16string& name) {
     const RegistryRoot root = RootOf(key);
     auto value = session.Registry().Query(root, key, name);
+    if (value && value->type == RegistryType::kBinary) return {value, ReadStatus::kRead};
     CRegistryStore& settings = session.Settings();
     if (value && value->type == RegistryType::kString) {
         settings.ReadString(root, key, name);
     } else {
         settings.ReadDword(root, key, name);
     }
-    const bool binary = value && value->type == RegistryType::kBinary;
-    if (!binary && settings.Status() != ReadStatus::kRead) value.reset();
-    return value;
+    if (settings.Status() != ReadStatus::kRead) value.reset();
+    return {value, settings.Status()};
 }
 
 int Get(CSession& session, CAnswer& answer, const SettingsWords& words) {
     const std::u16string key = FromUtf8(words.key);
     const std::u16string name = FromUtf8(words.name);
-    const auto value = Read(session, key, name);
-    const int status = static_cast<int>(session.Settings().Status());
+    const auto [value, readStatus] = Read(session, key, name);
+    const int status = static_cast<int>(readStatus);
     answer.Set("status", status);
     answer.Set("type", value ? Json(NameOf(value->type)) : Json(nullptr));
     answer.Set("value", value ? ValueOf(*value) : Json(nullptr));
@@ -116,7 +122,7 @@ int Set(CSession& session, const SettingsWords& words) {
         const std::string bytes = BytesOf(words.binary.value_or("")).value_or("");
         written = settings.WriteBinary(RootOf(key), key, name, bytes.data(), bytes.size());
     }
-    return written ? kDone : session.Fail(session.Text(kTextSettingNotWritten, key, name));
+    return written && session.KeepsChanges() ? kDone : session.Fail(session.Text(kTextSettingNotWritten, key, name));
 }
 
 int List(CSession& session, CAnswer& answer) {
@@ -152,11 +158,14 @@ void DeclareSettings(CLI::App& app, const SetAction& setAction) {
         DeclareSub(app, "set", "write one value", setAction, [words](CSession& s, CAnswer&) { return Set(s, *words); });
     AddKeyAndName(*set, words);
     auto* group = set->add_option_group("value");
-    group->add_option("--dword", words->dword, "a number from 0 to 4294967295");
-    group->add_option("--text", words->text, "a text");
-    group->add_option("--binary", words->binary, "bytes in hexadecimal")->check([](const std::string& hex) {
-        return BytesOf(hex) ? std::string() : "\"" + hex + "\" is not pairs of hexadecimal digits";
-    });
+    const auto takeDword = [words](std::int64_t number) { words->dword = static_cast<std::uint32_t>(number); };
+    AddInteger(*group, "--dword", {0, 0xFFFFFFFF}, takeDword, "a number")->type_name("N");
+    group->add_option("--text", words->text, "a text")->type_name("T");
+    group->add_option("--binary", words->binary, "bytes in hexadecimal")
+        ->type_name("HEX")
+        ->check([](const std::string& hex) {
+            return BytesOf(hex) ? std::string() : "\"" + hex + "\" is not pairs of hexadecimal digits";
+        });
     group->require_option(1);
     DeclareSub(app, "list", "every value", setAction, [](CSession& s, CAnswer& a) { return List(s, a); });
 }

@@ -1,48 +1,148 @@
 #include "uikit/look.h"
 
-#include <QLinearGradient>
+#include <array>
+
+#include "uikit/bitmap_image.h"
 
 namespace rlx {
 
 namespace {
 
-constexpr QRgb kInk = 0xFF142B3D;
-constexpr QRgb kInkSoft = 0xFF3D5C70;
-constexpr QRgb kSecond = 0xFFC62F2F;
-constexpr QRgb kBar = 0xFFE6EFF6;
-constexpr QRgb kAccent = 0xFF1F6FB2;
-constexpr QRgb kCard = 0xB4FFFFFF;
-constexpr QRgb kSkyTop = 0xFFCFE1F1;
-constexpr QRgb kSkyBottom = 0xFFFBF6EA;
+constexpr int kCardOpacity = 208;     // of 255
+constexpr double kSquareUpTo = 1.25;  // sides that differ by less count as equal
+
+constexpr std::array kLayoutsBySize = {SkinLayout::kPortrait, SkinLayout::kSquare, SkinLayout::kLandscape};
+
+/// The key of a picture of Tools; nothing for the pictures of screens.
+std::optional<SkinKey> ToolKeyOf(LookPicture which) {
+    switch (which) {
+        case LookPicture::kConverter:
+            return SkinKey::kToolsBC;
+        case LookPicture::kDialing:
+            return SkinKey::kToolsBD;
+        case LookPicture::kClothing:
+            return SkinKey::kToolsBS;
+        case LookPicture::kPacking:
+            return SkinKey::kToolsBP;
+        default:
+            return std::nullopt;
+    }
+}
+
+SkinSection ScreenOf(LookPicture which) {
+    if (which == LookPicture::kWeather) return SkinSection::kWeather;
+    return which == LookPicture::kMap ? SkinSection::kMap : SkinSection::kClocks;
+}
 
 }  // namespace
 
-ClockColours CLook::HomeClock() const {
-    return {QColor(kInk), QColor(kInkSoft), QColor(kInk), QColor(kSecond), QColor(kInk)};
+CLook::CLook(IFileSystem& files, const IImageCodec& codec, QObject* parent)
+    : QObject(parent), m_files(files), m_codec(codec) {}
+
+void CLook::SetSkin(CSkin skin) {
+    m_skin = std::move(skin);
+    m_pictures.clear();
+    emit Changed();
 }
 
-ClockColours CLook::OtherClocks() const {
-    return {QColor(kInk), QColor(kInkSoft), QColor(kInk), QColor(kSecond), QColor(kInkSoft)};
+QColor CLook::Colour(SkinKey key) const {
+    return QColor::fromRgb(PixelOfColour(m_skin.Colour(key)));
 }
 
-QColor CLook::Bar() const {
-    return QColor(kBar);
-}
-QColor CLook::BarText() const {
-    return QColor(kInk);
-}
-QColor CLook::Accent() const {
-    return QColor(kAccent);
-}
 QColor CLook::Card() const {
-    return QColor::fromRgba(kCard);
+    QColor card = Panel();
+    card.setAlpha(kCardOpacity);
+    return card;
 }
 
-void CLook::PaintBackground(QPainter& painter, const QRect& area, LookBackground /*which*/) const {
-    QLinearGradient sky(area.topLeft(), area.bottomLeft());
-    sky.setColorAt(0, QColor(kSkyTop));
-    sky.setColorAt(1, QColor(kSkyBottom));
-    painter.fillRect(area, sky);
+QColor CLook::Accent() const {
+    return Colour(SkinKey::kMapRSTBC);
+}
+
+QColor CLook::AccentText() const {
+    return Colour(SkinKey::kMapRSTTC);
+}
+
+QPalette CLook::Palette() const {
+    QPalette palette(Bar(), Bar());
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
+        palette.setColor(role, PanelText());
+        QColor faded = PanelText();
+        faded.setAlpha(110);
+        palette.setColor(QPalette::Disabled, role, faded);
+    }
+    QColor hint = PanelText();
+    hint.setAlpha(165);
+    palette.setColor(QPalette::PlaceholderText, hint);
+    palette.setColor(QPalette::Base, Panel());
+    palette.setColor(QPalette::AlternateBase, Bar());
+    palette.setColor(QPalette::ToolTipBase, Panel());
+    palette.setColor(QPalette::Highlight, Accent());
+    palette.setColor(QPalette::HighlightedText, AccentText());
+    palette.setColor(QPalette::Link, Accent());
+    return palette;
+}
+
+SkinLayout CLook::LayoutOf(const QSize& area) {
+    if (area.height() > area.width() * kSquareUpTo) return SkinLayout::kPortrait;
+    return area.width() > area.height() * kSquareUpTo ? SkinLayout::kLandscape : SkinLayout::kSquare;
+}
+
+std::optional<std::filesystem::path> CLook::FileOf(LookPicture which, SkinLayout layout) const {
+    if (which == LookPicture::kCommon) return m_skin.CommonPicture(m_files, layout);
+    if (const auto key = ToolKeyOf(which)) return m_skin.Picture(m_files, *key, layout);
+    return m_skin.Background(m_files, ScreenOf(which), layout);
+}
+
+std::optional<CBitmap> CLook::Load(const std::filesystem::path& file) const {
+    const auto bytes = m_files.ReadFile(file, IImageCodec::kMaxFileSize);
+    auto bitmap = bytes ? m_codec.Load(*bytes) : std::nullopt;
+    if (!bitmap) emit PictureBroken(QString::fromStdString(file.string()));
+    return bitmap;
+}
+
+const QImage& CLook::Source(LookPicture which, SkinLayout layout) const {
+    Picture& picture = m_pictures[static_cast<int>(which) * 4 + static_cast<int>(layout)];
+    if (!picture.source) {
+        const auto file = FileOf(which, layout);
+        auto bitmap = file ? Load(*file) : std::nullopt;
+        picture.source = bitmap ? ImageOf(*std::move(bitmap)) : QImage();
+    }
+    return *picture.source;
+}
+
+const QPixmap& CLook::Scaled(LookPicture which, const QSize& size, qreal ratio) const {
+    const SkinLayout layout = LayoutOf(size);
+    const QImage& source = Source(which, layout);
+    Picture& picture = m_pictures[static_cast<int>(which) * 4 + static_cast<int>(layout)];
+    const QSize pixels = (QSizeF(size) * ratio).toSize();
+    if (picture.scaled.size() == pixels || source.isNull()) return picture.scaled;
+    const QImage cover = source.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    const QPoint corner((cover.width() - pixels.width()) / 2, (cover.height() - pixels.height()) / 2);
+    picture.scaled = QPixmap::fromImage(cover.copy(QRect(corner, pixels)));
+    picture.scaled.setDevicePixelRatio(ratio);
+    return picture.scaled;
+}
+
+void CLook::PaintBackground(QPainter& painter, const QRect& area, LookPicture which) const {
+    const QPixmap& pixmap = Scaled(which, area.size(), painter.device()->devicePixelRatioF());
+    if (pixmap.isNull()) {
+        painter.fillRect(area, Bar());
+    } else {
+        painter.drawPixmap(area.topLeft(), pixmap);
+    }
+}
+
+std::optional<CBitmap> CLook::Map(int width) const {
+    std::optional<CBitmap> best;
+    for (const SkinLayout layout : kLayoutsBySize) {
+        const auto file = m_skin.Picture(m_files, SkinKey::kMapMI, layout);
+        auto bitmap = file ? Load(*file) : std::nullopt;
+        if (!bitmap || (best && bitmap->Width() <= best->Width())) continue;
+        best = std::move(bitmap);
+        if (best->Width() >= width) break;
+    }
+    return best;
 }
 
 }  // namespace rlx

@@ -13,7 +13,7 @@ class CMemoryFiles : public IFileSystem {
 public:
     std::map<std::filesystem::path, std::string> files;
     std::set<std::filesystem::path> folders;
-    std::set<std::filesystem::path> readOnly;
+    std::set<std::filesystem::path> readOnly;  ///< folders, and single files
 
     std::unique_ptr<IByteStream> OpenRead(const std::filesystem::path& file) override {
         return IsFile(file) ? std::make_unique<CMemoryStream>(files[file]) : nullptr;
@@ -23,7 +23,7 @@ public:
         return files[file];
     }
     bool WriteFile(const std::filesystem::path& file, std::string_view bytes) override {
-        if (readOnly.contains(file.parent_path())) return false;
+        if (readOnly.contains(file) || readOnly.contains(file.parent_path())) return false;
         files[file] = std::string(bytes);
         return true;
     }

@@ -7,24 +7,35 @@ namespace rlx {
 
 namespace {
 
-constexpr QRgb kDayCentre = 0xFFFFFFFF;
-constexpr QRgb kDayEdge = 0xFFE3EDF7;
-constexpr QRgb kNightCentre = 0xFF2B3A5C;
-constexpr QRgb kNightEdge = 0xFF141C33;
-constexpr QRgb kNightHands = 0xFFE9EFFA;
-constexpr QRgb kRim = 0x3C0A1A33;
+constexpr int kRimOpacity = 70;  // of 255
 
 QPointF OnCircle(const QPointF& centre, double radius, double degrees) {
     const double angle = degrees * M_PI / 180.0;
     return {centre.x() + radius * std::sin(angle), centre.y() - radius * std::cos(angle)};
 }
 
-void PaintGround(QPainter& painter, const QPointF& centre, double radius, bool day) {
+/// By night the lighter of face and hands gives the hands, the darker the ground; by day the other way round, whatever
+/// the skin.
+struct FaceColours {
+    QColor ground;
+    QColor ink;
+};
+
+FaceColours FaceColoursOf(const ClockColours& colours, bool day) {
+    const bool faceIsLight = colours.face.lightness() >= colours.hands.lightness();
+    const QColor& light = faceIsLight ? colours.face : colours.hands;
+    const QColor& dark = faceIsLight ? colours.hands : colours.face;
+    return day ? FaceColours{light, dark} : FaceColours{dark, light};
+}
+
+void PaintGround(QPainter& painter, const QPointF& centre, double radius, const FaceColours& colours) {
     QRadialGradient ground(centre, radius, centre - QPointF(radius * 0.25, radius * 0.35));
-    ground.setColorAt(0, QColor::fromRgba(day ? kDayCentre : kNightCentre));
-    ground.setColorAt(1, QColor::fromRgba(day ? kDayEdge : kNightEdge));
+    ground.setColorAt(0, colours.ground.lighter(112));
+    ground.setColorAt(1, colours.ground.darker(106));
+    QColor rim = colours.ink;
+    rim.setAlpha(kRimOpacity);
     painter.setBrush(ground);
-    painter.setPen(QPen(QColor::fromRgba(kRim), std::max(1.0, radius * 0.03)));
+    painter.setPen(QPen(rim, std::max(1.0, radius * 0.03)));
     painter.drawEllipse(centre, radius, radius);
 }
 
@@ -85,8 +96,9 @@ void PaintClockFace(QPainter& painter, const QRectF& area, const ClockHands& han
     if (radius < 4) return;
     const QPointF centre = area.center();
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintGround(painter, centre, radius, day);
-    const QColor ink = day ? colours.hands : QColor::fromRgba(kNightHands);
+    const FaceColours face = FaceColoursOf(colours, day);
+    const QColor& ink = face.ink;
+    PaintGround(painter, centre, radius, face);
     for (const ClockMark& mark : MarksFor(radius)) {
         PaintHand(painter, centre, mark.angle, mark.from * radius, mark.to * radius, std::max(0.8, mark.width * radius),
                   ink);

@@ -1,13 +1,23 @@
 #pragma once
 
+#include <QColor>
 #include <QPainter>
 #include <QRectF>
 #include <QString>
 
 #include "clocks/clock_face.h"
-#include "uikit/look.h"
 
 namespace rlx {
+
+/// The colours of one kind of clock, the home clock or the others.
+struct ClockColours {
+    QColor digital;
+    QColor date;
+    QColor city;
+    QColor second;
+    QColor hands;
+    QColor face;  ///< ground of the face by day; by night ground and hands change places
+};
 
 /// What one clock shows, as texts.
 struct ClockTexts {

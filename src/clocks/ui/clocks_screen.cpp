@@ -119,7 +119,16 @@ ClockTexts CClocksScreen::TextsOf(std::size_t clock) const {
 }
 
 ClockColours CClocksScreen::ColoursOf(std::size_t clock) const {
-    return clock == 0 ? m_look.HomeClock() : m_look.OtherClocks();
+    const auto colour = [this](SkinKey key) { return m_look.Colour(key); };
+    const bool home = clock == 0;
+    ClockColours colours;
+    colours.digital = colour(home ? SkinKey::kClocksCMDC : SkinKey::kClocksCODC);
+    colours.date = colour(home ? SkinKey::kClocksCMD : SkinKey::kClocksCOD);
+    colours.city = colour(home ? SkinKey::kClocksCMCN : SkinKey::kClocksCOCN);
+    colours.hands = colour(home ? SkinKey::kClocksCMAC : SkinKey::kClocksCOAC);
+    colours.second = colour(SkinKey::kClocksCMSC);
+    colours.face = m_look.Panel();
+    return colours;
 }
 
 void CClocksScreen::PaintClock(QPainter& painter, std::size_t clock) const {
@@ -136,7 +145,7 @@ void CClocksScreen::PaintClock(QPainter& painter, std::size_t clock) const {
 
 void CClocksScreen::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    m_look.PaintBackground(painter, rect(), LookBackground::kClocks);
+    m_look.PaintBackground(painter, rect(), LookPicture::kClocks);
     painter.setRenderHint(QPainter::Antialiasing);
     for (std::size_t clock = 0; clock < m_clocks.size(); ++clock)
         PaintClock(painter, clock);

@@ -6,8 +6,8 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "platform/fake/scripted_message_boxes.h"
 #include "support/number_texts.h"
-#include "support/scripted_boxes.h"
 #include "tools/converter/converter_page.h"
 #include "tools/converter/unit_search.h"
 
@@ -119,7 +119,7 @@ protected:
     ConverterPageTest() { m_page.SetTables(SeedTables()); }
 
     test::CNumberTexts m_texts;
-    test::CScriptedBoxes m_boxes;
+    CScriptedMessageBoxes m_boxes;
     CConverterPage m_page{m_texts, m_boxes};
 };
 

@@ -4,9 +4,9 @@
 
 #include "base/number.h"
 #include "base/text.h"
-#include "support/local_store.h"
+#include "platform/fake/memory_object_store.h"
+#include "platform/fake/scripted_message_boxes.h"
 #include "support/number_texts.h"
-#include "support/scripted_boxes.h"
 #include "tools/converter/unit_editor.h"
 
 namespace rlx {
@@ -22,9 +22,9 @@ protected:
 
     std::vector<MessageBox> Shown() { return std::exchange(m_boxes.shown, {}); }
 
-    test::CLocalStore m_store;
+    CMemoryObjectStore m_store;
     test::CNumberTexts m_texts;
-    test::CScriptedBoxes m_boxes;
+    CScriptedMessageBoxes m_boxes;
     CUnitDatabase m_units{m_store};
     CUnitEditor m_editor{m_units, m_texts, m_boxes};
 };
@@ -51,7 +51,7 @@ TEST_F(UnitDatabaseTest, IsSeededOnceInCategoryOrder) {
     };
     for (const auto& [row, expected] : kRows)
         EXPECT_EQ(rows[row], expected) << row << " " << ToUtf8(rows[row].name);
-    EXPECT_EQ(m_store.databases.at(u"rlxConverters").sortOrders, std::vector<PropertyId>{301});
+    EXPECT_EQ(m_store.SortOrdersOf(u"rlxConverters"), std::vector<PropertyId>{301});
 }
 
 TEST_F(UnitDatabaseTest, AddedUnitStandsLastInItsCategory) {
@@ -107,7 +107,7 @@ TEST_F(UnitDatabaseTest, DeletesAfterAQuestionAndByExactName) {
 }
 
 TEST_F(UnitDatabaseTest, DeviceThatRefusesWritesLosesNothing) {
-    m_store.refuseWrites = true;
+    m_store.Failures().FailAll();
     m_boxes.answers = {BoxAnswer::kYes};
     EXPECT_FALSE(m_editor.Add(kAreas, u"pitch", u"7140"));
     EXPECT_EQ(Shown().back().text, u"{40722}");
@@ -117,16 +117,27 @@ TEST_F(UnitDatabaseTest, DeviceThatRefusesWritesLosesNothing) {
 }
 
 TEST(UnitDatabase, IsSeededWholeOrNotAtAll) {
-    test::CLocalStore store;
-    store.writesLeft = 200;
+    CMemoryObjectStore store;
+    store.Failures().FailAt(200);
     CUnitDatabase units(store);
     EXPECT_FALSE(units.Open());
     EXPECT_TRUE(units.ReadTables()[kTemperatures].empty());
     EXPECT_EQ(units.Add(kAreas, u"pitch", u"7140"), UnitChange::kNotSaved);
 
-    store.writesLeft = SIZE_MAX;
     EXPECT_TRUE(units.Open());
     EXPECT_EQ(units.ReadAll().size(), 350U);
+}
+
+TEST(UnitDatabase, IsNotSeededTwiceByTwoProcesses) {
+    CMemoryObjectStore store;
+    store.BeforeNextTransact([&store] {
+        CUnitDatabase other(store);
+        EXPECT_TRUE(other.Open());
+        EXPECT_EQ(other.Add(kAreas, u"pitch", u"7140"), UnitChange::kDone);
+    });
+    CUnitDatabase units(store);
+    EXPECT_TRUE(units.Open());
+    EXPECT_EQ(units.ReadAll().size(), 351U);
 }
 
 TEST(UnitTables, TemperaturesTakeFiveRowsWhateverTheyAre) {

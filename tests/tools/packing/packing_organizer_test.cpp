@@ -4,14 +4,16 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "platform/fake/scripted_message_boxes.h"
+#include "support/memory_files.h"
 #include "support/number_texts.h"
-#include "support/scripted_boxes.h"
-#include "tools/packing/one_folder.h"
 #include "tools/packing/packing_templates.h"
 
 namespace rlx {
 namespace {
 
+const std::filesystem::path kFile = "home/pack.dat";
+const std::filesystem::path kBackup = "home/pack.dat.bak";
 const std::string kEmptyFile = ">\r\nAll\r\n*\r\nAll Items\r\n<";
 
 class PackingOrganizerTest : public testing::Test {
@@ -19,7 +21,7 @@ protected:
     PackingOrganizerTest() { m_pack.Load(); }
 
     void LoadBytes(const std::string& bytes) {
-        m_folder.files["pack.dat"] = bytes;
+        m_folder.files[kFile] = bytes;
         m_pack.Load();
     }
 
@@ -45,9 +47,9 @@ protected:
         return text;
     }
 
-    test::COneFolder m_folder;
+    test::CMemoryFiles m_folder;
     test::CNumberTexts m_texts;
-    test::CScriptedBoxes m_boxes;
+    CScriptedMessageBoxes m_boxes;
     CPackingOrganizer m_pack{m_folder, "home", m_texts, m_boxes};
 };
 
@@ -220,7 +222,7 @@ TEST_F(PackingOrganizerTest, FindsByNameAndTellsWhatIsMissing) {
 }
 
 TEST_F(PackingOrganizerTest, SavesOnlyWhenAskedTo) {
-    EXPECT_EQ(m_folder.files.at("pack.dat"), "");
+    EXPECT_EQ(m_folder.files.at(kFile), "");
     EXPECT_TRUE(m_pack.Leave());
     EXPECT_EQ(Told(), u"");
 
@@ -228,7 +230,7 @@ TEST_F(PackingOrganizerTest, SavesOnlyWhenAskedTo) {
     EXPECT_TRUE(m_pack.Leave());
     EXPECT_EQ(m_boxes.shown, std::vector{(MessageBox{u"{32948}", u"{41015}", BoxIcon::kQuestion, BoxButtons::kYesNo})});
     Told();
-    EXPECT_EQ(m_folder.files.at("pack.dat"), "");
+    EXPECT_EQ(m_folder.files.at(kFile), "");
     EXPECT_FALSE(m_pack.IsChanged());
     EXPECT_EQ(Items({0, 0}), u"tent");
 
@@ -236,19 +238,19 @@ TEST_F(PackingOrganizerTest, SavesOnlyWhenAskedTo) {
     m_boxes.answers = {BoxAnswer::kYes};
     EXPECT_TRUE(m_pack.Leave());
     Told();
-    EXPECT_EQ(m_folder.files.at("pack.dat"), ">\r\nAll\r\n*\r\nAll Items\r\ntent1\r\n<");
-    EXPECT_FALSE(m_folder.files.contains("pack.dat.bak"));
+    EXPECT_EQ(m_folder.files.at(kFile), ">\r\nAll\r\n*\r\nAll Items\r\ntent1\r\n<");
+    EXPECT_FALSE(m_folder.files.contains(kBackup));
 }
 
 TEST_F(PackingOrganizerTest, SaveThatFailsKeepsFileAndChanges) {
     LoadBytes(kEmptyFile);
     ASSERT_TRUE(m_pack.AddItem(u"tent"));
-    m_folder.locked["pack.dat"] = true;
+    m_folder.readOnly.insert(kFile);
     m_boxes.answers = {BoxAnswer::kYes};
     EXPECT_FALSE(m_pack.Leave());
     EXPECT_EQ(m_boxes.shown.back().text, u"{41033}");
     EXPECT_TRUE(m_pack.IsChanged());
-    EXPECT_EQ(m_folder.files.at("pack.dat"), kEmptyFile);
+    EXPECT_EQ(m_folder.files.at(kFile), kEmptyFile);
 }
 
 TEST_F(PackingOrganizerTest, NothingInTheFileIsLostBySaving) {
@@ -272,17 +274,17 @@ TEST_F(PackingOrganizerTest, NothingInTheFileIsLostBySaving) {
         m_folder.files.clear();
         LoadBytes(loaded);
         EXPECT_EQ(Told(), u"") << name;
-        m_folder.files["pack.dat"] = meanwhile;
-        m_folder.locked["pack.dat.bak"] = !kept.empty();
+        m_folder.files[kFile] = meanwhile;
+        if (!kept.empty()) m_folder.readOnly.insert(kBackup);
         EXPECT_EQ(m_pack.Save(), kept.empty()) << name;
         EXPECT_EQ(Told(), kept.empty() ? u"" : u"{41033}") << name;
-        EXPECT_EQ(m_folder.files.at("pack.dat") == meanwhile, !kept.empty() || meanwhile == kEmptyFile) << name;
+        EXPECT_EQ(m_folder.files.at(kFile) == meanwhile, !kept.empty() || meanwhile == kEmptyFile) << name;
 
-        m_folder.locked.clear();
+        m_folder.readOnly.clear();
         EXPECT_TRUE(kept.empty() || m_pack.Save()) << name;
         EXPECT_EQ(Told(), told) << name;
-        EXPECT_EQ(m_folder.files.at("pack.dat"), kEmptyFile) << name;
-        EXPECT_TRUE(m_folder.files["pack.dat.bak"] == kept) << name;
+        EXPECT_EQ(m_folder.files.at(kFile), kEmptyFile) << name;
+        EXPECT_TRUE(m_folder.files[kBackup] == kept) << name;
     }
 }
 

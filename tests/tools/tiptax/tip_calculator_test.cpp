@@ -4,8 +4,8 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "platform/fake/scripted_message_boxes.h"
 #include "support/number_texts.h"
-#include "support/scripted_boxes.h"
 #include "tools/tiptax/bill_split.h"
 
 namespace rlx {
@@ -16,7 +16,7 @@ using enum TipRate;
 class TipCalculatorTest : public testing::Test {
 protected:
     test::CNumberTexts m_texts;
-    test::CScriptedBoxes m_boxes;
+    CScriptedMessageBoxes m_boxes;
     CTipCalculator m_tip{m_texts, m_boxes};
 };
 
