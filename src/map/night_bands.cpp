@@ -20,7 +20,8 @@ namespace {
 /// The numerator of the slope is linear in sin p. Its only zero is at sin p = sin d / sin h, and since sin h is
 /// negative cos H rises below that latitude and falls above it. H therefore falls and then rises along the rows (one of
 /// the two stretches may be empty): a valley. In each column the night rows are a stretch around the valley's lowest
-/// row, or none, and on each side of that row the test changes its answer once at most, so bisection finds both ends.
+/// row, or none, and on each side of that row the test changes its answer once at most, so a search that halves finds
+/// both ends.
 ///
 /// The order of the rows by H is looked at once for each instant; should rounding ever leave a dent in the valley, all
 /// rows are tested.
@@ -34,14 +35,17 @@ public:
         FindValley();
     }
 
-    NightBand BandOf(double transit, double dayFraction) const {
+    /// `hint` is where the band is looked for first: that of the column before lies close by.
+    NightBand BandOf(double transit, double dayFraction, const NightBand& hint) const {
         const auto night = [&](int row) {
             return IsNight(m_rows[static_cast<std::size_t>(row)], transit, dayFraction);
         };
         const int last = static_cast<int>(m_rows.size()) - 1;
         if (!m_isValley) return Scan(last, night);
         if (!night(m_lowest)) return {};
-        return {FirstNight(0, m_lowest, night), LastNight(m_lowest, last, night)};
+        return {m_lowest - Reach(m_lowest, m_lowest - hint.top, [&](int rows) { return night(m_lowest - rows); }),
+                m_lowest +
+                    Reach(last - m_lowest, hint.bottom - m_lowest, [&](int rows) { return night(m_lowest + rows); })};
     }
 
 private:
@@ -63,30 +67,20 @@ private:
             std::is_sorted(std::make_reverse_iterator(lowest), order.rend()) && std::is_sorted(lowest, order.end());
     }
 
+    /// How many rows, at most `most`, the night reaches from the lowest row on: it is known to hold for 0 rows. Looks
+    /// around `hint` in strides that double, then halves what is left: two tests when the hint is right.
     template <typename Night>
-    static int FirstNight(int from, int night, const Night& isNight) {
-        while (from < night) {
-            const int middle = from + (night - from) / 2;
-            if (isNight(middle)) {
-                night = middle;
-            } else {
-                from = middle + 1;
-            }
+    static int Reach(int most, int hint, const Night& isNight) {
+        int known = 0;
+        int beyond = most + 1;
+        int at = std::clamp(hint, 1, std::max(most, 1));
+        for (int stride = 1; known + 1 < beyond; stride *= 2) {
+            const bool night = isNight(at);
+            (night ? known : beyond) = at;
+            const bool wide = beyond - known > 2 * stride;
+            at = !wide ? known + (beyond - known) / 2 : night ? known + stride : beyond - stride;
         }
-        return night;
-    }
-
-    template <typename Night>
-    static int LastNight(int night, int to, const Night& isNight) {
-        while (night < to) {
-            const int middle = to - (to - night) / 2;
-            if (isNight(middle)) {
-                night = middle;
-            } else {
-                to = middle - 1;
-            }
-        }
-        return night;
+        return known;
     }
 
     template <typename Night>
@@ -124,9 +118,12 @@ std::vector<NightBand> ComputeBands(const MapGeometry& geometry, const SolarInst
     const int step = ColumnStep(instant);
     const CRowSearch search(geometry.height, instant.declination);
     std::vector<NightBand> bands;
-    bands.reserve(static_cast<std::size_t>((width + kColumnsBeyond) / step + 1));
-    for (int column = 0; column < width + kColumnsBeyond; column += step)
-        bands.push_back(search.BandOf(ColumnTransit(column, width, instant), instant.dayFraction));
+    bands.reserve(static_cast<std::size_t>(width / step) + kColumnsBeyond);
+    NightBand hint;
+    for (int column = 0; column < width + kColumnsBeyond; column += step) {
+        bands.push_back(search.BandOf(ColumnTransit(column, width, instant), instant.dayFraction, hint));
+        if (bands.back().top >= 0) hint = bands.back();
+    }
     return bands;
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "shell/device_path.h"
+#include "shell/fill_text.h"
 #include "skins/icon_set.h"
 #include "skins/skin_file.h"
 
@@ -117,11 +118,6 @@ TextId TextOf(SkinFaultKind kind) {
     return kTextSkinInvalid;
 }
 
-std::u16string_view Filling(char16_t digit, const SkinFault& fault) {
-    if (digit == u'1') return fault.section;
-    return digit == u'2' ? fault.key : std::u16string_view(fault.value);
-}
-
 /// A value of a file on one line, whatever it holds.
 std::u16string OnOneLine(std::u16string text) {
     for (char16_t& unit : text) {
@@ -139,18 +135,7 @@ std::vector<SkinFault> ValidateSkin(IFileSystem& files, const std::filesystem::p
 }
 
 std::u16string FaultText(const SkinFault& fault, const ITexts& texts) {
-    const std::u16string pattern = texts.Text(TextOf(fault.kind));
-    std::u16string line;
-    for (std::size_t i = 0; i < pattern.size(); ++i) {
-        const char16_t next = i + 1 < pattern.size() ? pattern[i + 1] : u'\0';
-        if (pattern[i] == u'%' && next >= u'1' && next <= u'3') {
-            line += Filling(next, fault);
-            ++i;
-        } else {
-            line += pattern[i];
-        }
-    }
-    return OnOneLine(std::move(line));
+    return OnOneLine(FillText(texts.Text(TextOf(fault.kind)), {fault.section, fault.key, fault.value}));
 }
 
 }  // namespace rlx

@@ -45,9 +45,10 @@ void BM_AndNightPixels(benchmark::State& state) {
     const std::uint32_t mask = PixelOfColour(kShadow);
     for (auto _ : state) {
         for (const NightRun& run : runs) {
-            std::uint32_t* pixels = map.Row(run.row);
-            for (int x = run.begin; x < run.end; ++x)
-                pixels[x] &= mask;
+            std::uint32_t* pixels = map.Row(run.row) + run.begin;
+            const int count = run.end - run.begin;
+            for (int i = 0; i < count; ++i)
+                pixels[i] &= mask;
         }
         benchmark::ClobberMemory();
     }

@@ -1,5 +1,6 @@
 #include "skins/skin_writer.h"
 
+#include "platform/fake/scripted_message_boxes.h"
 #include "shell/resources.h"
 #include "skins/skin.h"
 #include "skins/skin_file.h"
@@ -138,16 +139,6 @@ TEST(SkinWriter, DamagedFilesAreKept) {
     EXPECT_EQ(files.files[kSkin], test::Replaced(old, "PBC@255", "PBC@2"));
 }
 
-class CScriptedBoxes : public IMessageBoxes {
-public:
-    BoxAnswer Show(const MessageBox& box) override {
-        shown.push_back(box.text);
-        EXPECT_EQ(box.title, u"Error!");
-        return BoxAnswer::kOk;
-    }
-    std::vector<std::u16string> shown;
-};
-
 TEST(SkinLoader, FallsBackAndSaysSo) {
     const std::u16string selected = u"Skin File corrupted or not found!\n\nDefault skin will be used.";
     const std::u16string reinstall = u"Default Skin file corrupted or not found!\n\nPlease reinstall Default skin.";
@@ -171,11 +162,14 @@ TEST(SkinLoader, FallsBackAndSaysSo) {
     for (const auto& row : rows) {
         auto files = test::FilesWith(test::SoundSkin());
         if (row.defaultThere) files.files["/app/default.skn"] = test::SoundSkin();
-        CScriptedBoxes boxes;
+        CScriptedMessageBoxes boxes;
         std::vector<std::u16string> written;
         CSkinLoader loader(files, "/app", texts, boxes, [&](std::u16string_view text) { written.emplace_back(text); });
         EXPECT_EQ(loader.Load(row.setting).Folder(), row.folder) << row.name;
-        EXPECT_EQ(boxes.shown, row.shown) << row.name;
+        ASSERT_EQ(boxes.shown.size(), row.shown.size()) << row.name;
+        for (std::size_t i = 0; i < row.shown.size(); ++i)
+            EXPECT_EQ(boxes.shown[i], (MessageBox{u"Error!", row.shown[i], BoxIcon::kExclamation, BoxButtons::kOk}))
+                << row.name;
         EXPECT_EQ(written, row.written) << row.name;
     }
 }

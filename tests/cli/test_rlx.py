@@ -1,0 +1,300 @@
+#!/usr/bin/env python3
+"""What `rlx` answers, seen from outside: members, messages, exit statuses, files."""
+
+import datetime
+import json
+import os
+import pathlib
+import random
+import shutil
+import subprocess
+import unittest
+
+import city_model as model
+from rlx_program import NOW, RLX, RlxTest
+
+NO_FILE = "Cities file not found\nDatabase not created!"
+KATHMANDU = ";Kathmandu;Nepal;85.32;27.71;545;0;0;0;0;0\n"
+LONDON = ";London;United Kingdom;-0.1257;51.5085;0;1;88;1;298;2\n"
+WORLD_CLOCK = "Roamlytix\\wrldclk"
+DEFAULTS = {"clock": 0, "clock1": 684, "clock2": 756, "clock3": 565, "clock4": 988, "syncltz": 0}
+
+
+def listed(*lines):
+    return f"{len(lines)}\n" + "".join(lines)
+
+
+class Clocks(RlxTest):
+    def test_new_device(self):
+        self.cities(listed("x" + LONDON, "x" + KATHMANDU))
+        answer = self.answer("clocks")
+        self.assertEqual(list(answer), ["syncltz", "reference", "clocks"])
+        self.assertEqual([answer["syncltz"], answer["reference"]], [0, {"hours": 5, "minutes": 45}])
+        self.assertEqual([(c["slot"], c["cityIndex"]) for c in answer["clocks"]],
+                         [("home", 0), ("1", 684), ("2", 756), ("3", 565), ("4", 988)])
+        home = {"slot": "home", "cityIndex": 0, "name": "Kathmandu", "country": "Nepal", "gmt": 545, "effectiveGmt": 545,
+                "dst": False, "time": "23:30:07", "date": "10/07/2026    Fri"}
+        self.assertEqual(answer["clocks"][0], home)
+        self.assertEqual(list(answer["clocks"][4].values()), ["4", 988, "", "", 0, 0, False, "17:45:07", "10/07 Fri"])
+        values = self.answer("settings", "list")["values"]
+        self.assertEqual(values, [{"key": WORLD_CLOCK, "name": name, "type": "dword", "value": value}
+                                  for name, value in DEFAULTS.items()])
+
+    def test_missing_value_counts_as_its_default_and_stays_missing(self):
+        self.cities(listed("x" + LONDON))
+        self.answer("settings", "set", WORLD_CLOCK, "clock2", "--dword", "0")
+        self.assertEqual([c["cityIndex"] for c in self.answer("clocks")["clocks"]], [0, 684, 0, 565, 988])
+        values = self.answer("settings", "list")["values"]
+        self.assertEqual({v["name"]: v["value"] for v in values}, {"clock2": 0, "syncltz": 0})
+
+    def test_missing_file_is_told_and_tried_again(self):
+        self.assertEqual([c["name"] for c in self.answer("clocks", messages=[NO_FILE])["clocks"]], [""] * 5)
+        self.answer("city", "rebuild", status=1, messages=[NO_FILE])
+        done = self.run_rlx("city", "list")
+        self.assertEqual((done.returncode, done.stdout, done.stderr.decode()), (0, b"", f"[Error!] {NO_FILE}\n"))
+        (self.home / "cities.lst").write_text(listed("x" + LONDON))
+        self.assertEqual(self.answer("city", "list"), {"cities": ["London:United Kingdom"]})
+        (self.home / "cities.lst").unlink()
+        self.answer("city", "rebuild", status=1, messages=[NO_FILE])
+        self.assertEqual(self.answer("city", "list"), {"cities": ["London:United Kingdom"]})
+
+
+class Times(RlxTest):
+    def random_city(self, chance):
+        offset = chance.choice([chance.randint(-12, 14), chance.randint(-1300, 1400), 100, -100, 101, -101, 545, -330])
+        rule = (chance.choice([0, 1, 1, 2]), chance.randint(1, 365), chance.randint(0, 23), chance.randint(1, 365),
+                chance.randint(0, 23))
+        return offset, rule
+
+    def check_instant(self, table, now, sync, bias):
+        """Compares the clocks at one instant with the model; says how many."""
+        answer = self.answer("clocks", now=now.isoformat(), bias=bias)
+        ref = model.reference(table[0], sync, bias, now)
+        self.assertEqual(answer["reference"], {"hours": ref[0], "minutes": ref[1]})
+        for clock in answer["clocks"][1 - sync:]:
+            city = table[clock["cityIndex"]]
+            effective, dst, text, date = model.world_clock(city, ref, now)
+            with self.subTest(city=city, home=table[0], now=now, sync=sync, bias=bias):
+                self.assertEqual([clock[m] for m in ("effectiveGmt", "dst", "time", "date")],
+                                 [effective, dst, text, model.date_text(date, clock["slot"] == "home")])
+        if not sync:
+            self.assertEqual([answer["clocks"][0][m] for m in ("time", "date")],
+                             [f"{now:%H:%M:%S}", model.date_text(now, True)])
+        return len(answer["clocks"])
+
+    def test_random_cities_rules_instants_and_zones(self):
+        chance, compared = random.Random(20261122), 0
+        for round_ in range(20):
+            table = [self.random_city(chance) for _ in range(989)]
+            self.cities(listed(*(f"x;City {i:03};Land;1;2;{offset};{';'.join(map(str, rule))}\n"
+                                 for i, (offset, rule) in enumerate(table))))
+            self.answer("settings", "set", WORLD_CLOCK, "syncltz", "--dword", str(round_ % 2))
+            for _ in range(3):
+                now = datetime.datetime(chance.choice([2024, 2026, 2027]), 1, 1) + datetime.timedelta(
+                    days=chance.choice([0, 58, 59, 364, chance.randint(0, 364)]), hours=chance.choice([0, 23, 12, 7]),
+                    minutes=chance.randint(0, 59), seconds=chance.randint(0, 59))
+                bias = chance.choice([0, -60, -330, 330, -345, 210, 480, -825, 61, -1])
+                compared += self.check_instant(table, now, round_ % 2, bias)
+        self.assertEqual(compared, 300)
+
+    def test_named_instants(self):
+        rows = (  # name, offset;rule, now, bias, then time, date, effective offset, dst
+            ("quarter hours", "545;0;0;0;0;0", "2026-07-10T23:30:07", 0, "05:15:07", "11/07 Sat", 545, False),
+            ("west over midnight", "-3;0;0;0;0;0", "2026-03-01T00:10:00", 0, "21:10:00", "28/02 Sat", -3, False),
+            ("leap day", "-3;0;0;0;0;0", "2024-03-01T00:10:00", 0, "21:10:00", "29/02 Thu", -3, False),
+            ("sign of the zone's minutes", "0;0;0;0;0;0", "2026-07-10T12:00:00", -330, "07:30:00", "10/07 Fri", 0, False),
+            ("southern December", "10;1;277;2;95;3", "2026-12-01T12:00:00", 0, "23:00:00", "01/12 Tue", 11, True),
+            ("southern January", "10;1;277;2;95;3", "2026-01-15T12:00:00", 0, "22:00:00", "15/01 Thu", 10, False),
+            ("half hours and daylight", "930;1;1;2;365;3", "2026-07-01T12:00:00", 0, "22:30:00", "01/07 Wed", 1030, True),
+            ("hours of the rule do not count", "0;1;88;23;298;0", "2026-03-29T00:00:00", 0, "01:00:00", "29/03 Sun", 1, True),
+            ("no daylight, whatever the days", "0;0;1;0;365;0", "2026-07-01T12:00:00", 0, "12:00:00", "01/07 Wed", 0, False),
+        )
+        self.cities(listed(*(f"x;Place {i};Land;1;2;{row[1]}\n" for i, row in enumerate(rows))))
+        self.answer("settings", "set", WORLD_CLOCK, "syncltz", "--dword", "1")  # the zone, whatever the home city
+        for i, (name, _, now, bias, *wanted) in enumerate(rows):
+            with self.subTest(name):
+                answer = self.answer("time", str(i), now=now, bias=bias)
+                self.assertEqual([answer[m] for m in ("time", "date", "effectiveGmt", "dst")], wanted)
+        self.assertEqual(answer, {"time": "12:00:00", "date": "01/07 Wed", "dateLong": "01/07/2026    Wed", "day": 1, "month": 7,
+                                  "year": 2026, "effectiveGmt": 0, "dst": False, "reference": {"hours": 0, "minutes": 0}})
+
+
+class Cities(RlxTest):
+    def test_members_and_information(self):
+        self.cities(listed("x" + LONDON, "x;Chatham;Zealand;-176;-44;-10;1;277;2;95;3\n", "x;A:b;C;1;2;5;0;0;0;0;0\n"))
+        self.assertEqual(self.answer("city", "show", "london", now="2026-07-10T12:00:00"), {
+            "cityIndex": 2, "place": "London:United Kingdom", "name": "London", "country": "United Kingdom",
+            "longitude": "-0.1257", "latitude": "51.5085", "gmt": "0", "dstRule": "1:88:1:298:2",
+            "info": "City: London\nCountry: United Kingdom\nLong: -0.1257 Lat: 51.5085\nDaylight saving: Observing now\n"
+                    "DST start/end: 29/3/2026 - 25/10/2026\nGmt: 0h + 1h (DST)"})
+        info = self.answer("city", "show", "1")["info"]
+        self.assertIn("Not observing now\nDST start/end: 4/10/2026 - 5/4/2027\nGmt: -h10", info)
+        self.answer("city", "show", "A:B", status=1, messages=['There is no city "A:B".'])
+        answer = self.answer("city", "show", "0")
+        self.assertEqual((answer["name"], answer["country"]), ("A", "b:C"))
+        self.assertTrue(answer["info"].endswith("Never observing\nDST start/end: -\nGmt: 5h"), answer["info"])
+
+    def test_files(self):
+        good, rest = "x;{};L;1;2;3;0;0;0;0;0", ["3", "0:0:0:0:0"]
+
+        def line(name):
+            return good.format(name) + "\n"
+
+        rows = (  # name, file, names, offset and rule of city 0
+            ("end mark", listed(line("A"), "x;>;\n", line("B")), ["A:L"], rest),
+            ("end mark as longitude", listed(line("A"), "x;B;L;>;\n"), ["A:L"], rest),
+            ("end mark as country is none", listed(line("A").replace(";L", ";>")), ["A:>"], rest),
+            ("count too large", "9\n" + line("A"), ["A:L"], rest),
+            ("count too small", "1\n" + line("A") + line("B"), ["A:L"], rest),
+            ("count with more behind it", "1 city\n" + line("A"), ["A:L"], rest),
+            ("no count", line("A"), [], None),
+            ("last line unended", "1\n" + good.format("A"), ["A:L"], rest),
+            ("doubled semicolon", "1\nx;A;;L;1;2;3;0;0;0;0;0\n", ["A:L"], rest),
+            ("empty field shifts", "1\nx;A;L;1;2;;7;0;1;2;3;4;5\n", ["A:L"], ["7", "0:1:2:3:4;5"]),
+            ("carriage returns", "1\r\n" + good.format("A") + "\r\n", ["A:L"], ["3", "0:0:0:0:0\r"]),
+            ("order of code units", listed(line("a"), line("Z"), line("\xe9"), line("A")),
+             ["A:L", "Z:L", "a:L", "\xe9:L"], rest),
+            ("zero bytes and high bytes", b"1\nx;\0\xff;L;1;2;3;0;0;0;0;0\n", ["\0\xff:L"], rest),
+            ("very long name", listed(line("n" * 5000)), ["n" * 1499 + ":L"], rest),
+        )
+        for name, text, places, rule in rows:
+            with self.subTest(name):
+                self.cities(text)
+                self.assertEqual(self.answer("city", "list"), {"cities": places})
+                if places:
+                    shown = self.answer("city", "show", "0")
+                    self.assertEqual([shown["gmt"], shown["dstRule"]], rule)
+
+    def test_choosing_a_city(self):
+        names = ["San A", "san B", "SAN C"] + [f"San {i:02}" for i in range(9)] + ["Zürich", "42nd Street"]
+        self.cities(listed(*(f"x;{name};L;1;2;0;0;0;0;0;0\n" for name in names)))
+        order = sorted(names)
+        first_ten = "".join(f"\n{order.index(n)} {n}:L" for n in sorted(n for n in names if n[:3].lower() == "san")[:10])
+        rows = (("zÜRICH", "Zürich", None), ("zü", "Zürich", None), ("0", order[0], None), ("+3", order[3], None),
+                ("san b", "san B", None), ("42nd", "42nd Street", None),
+                ("San", None, '12 cities begin with "San". Name one by its number:' + first_ten),
+                ("14", None, 'There is no city "14".'), ("42", None, 'There is no city "42".'),
+                ("-1", None, 'There is no city "-1".'), ("4294967296", None, 'There is no city "4294967296".'),
+                (b"\xff\xfeX", None, 'There is no city "\ufffd\ufffdX".'), ("time", None, 'There is no city "time".'),
+                ("Q" * 100000, None, f'There is no city "{"Q" * 100000}".'))
+        for word, name, message in rows:
+            with self.subTest(word[:20]):
+                if name is None:
+                    self.assertEqual(self.answer("time", word, status=1, messages=[message]), {})
+                else:
+                    self.assertEqual(self.answer("city", "show", word)["name"], name)
+        found = [{"cityIndex": order.index("san B"), "place": "san B:L"}]
+        self.assertEqual(self.answer("city", "find", "SAN b"), {"cities": found})
+        self.assertEqual(self.answer("city", "find", "time"), {"cities": []})
+        (self.home / "cities.lst").write_text(listed("x" + LONDON))
+        self.assertEqual(self.answer("city", "rebuild"), {"count": 1})
+
+
+class Settings(RlxTest):
+    def test_values(self):
+        key = "Roamlytix\\it"
+        self.assertEqual(self.answer("settings", "get", key, "n"), {"status": -2, "type": None, "value": None})
+        rows = (  # name, option, value given, type, value read
+            ("a", "--dword", "4294967295", "dword", 4294967295), ("a", "--dword", "010", "dword", 10),
+            ("a", "--text", "Zoë 😀\n", "string", "Zoë 😀\n"), ("a", "--text", "", "string", ""),
+            ("a", "--text", "--json", "string", "--json"), ("a", "--text", b"\xff", "string", "\ufffd"),
+            ("lang", "--binary", "00fF", "binary", "00FF"), ("time", "--binary", "", "binary", ""),
+            ("n" * 19, "--dword", "7", "dword", 7), ("n" * 20, "--dword", "7", None, None),
+            ("n" * 20, "--text", "seen", "string", "seen"), ("N" * 300, "--binary", "01", "binary", "01"))
+        for name, option, given, kind, value in rows:
+            with self.subTest(name=name, given=given):
+                self.assertEqual(self.answer("settings", "set", key, name, option, given), {})
+                self.assertEqual(self.answer("settings", "get", key, name),
+                                 {"status": 0 if kind else -1, "type": kind, "value": value})
+        self.assertEqual(self.answer("settings", "get", key, "none")["status"], -1)
+        self.assertEqual(self.answer("settings", "get", "ControlPanel\\Owner", "Owner")["status"], -2)
+
+
+class Usage(RlxTest):
+    def test_wrong_words(self):
+        rows = (("bogus", "bogus"), ("clocks --nosuch", "--nosuch"), ("clocks extra", "extra"), ("time", "CITY"),
+                ("city", "subcommand"), ("", "subcommand"), ("city bogus", "bogus"), ("settings get K", "NAME"),
+                ("settings set K n --dword -1", "-1"), ("settings set K n --dword 0x10", "0x10"),
+                ("settings set K n --dword=", "--dword"), ("settings set K n --binary 0", "0"),
+                ("settings set K n --dword 1 --text 2", "--text"), ("settings set K n", "--dword"),
+                ("clocks --now 2026-02-30T00:00:00", "2026-02-30T00:00:00"), ("clocks --bias 1.5", "1.5"),
+                ("--yes --no clocks", "--no"), ("clocks --store", "--store"), ("lang text 65536", "65536"))
+        for line, wrong in rows:
+            with self.subTest(line):
+                done = self.run_rlx(*line.split())
+                lines = done.stderr.decode().splitlines()
+                self.assertEqual((done.returncode, done.stdout, len(lines)), (2, b"", 2))
+                self.assertIn(wrong, lines[0])
+                self.assertTrue(lines[1].startswith("usage: rlx"), lines[1])
+        done = self.run_rlx("clocks", "--now", b"\xff", "--json")
+        self.assertEqual((done.returncode, json.loads(done.stdout)["messages"]), (2, []))
+        self.assertEqual(list(self.folder.iterdir()), [self.home])
+
+    def test_places_of_options(self):
+        self.cities(listed("x" + LONDON))
+        self.home.rename(self.folder / "city")  # named like a command
+        words = "--home city time 0 --store=device.db --now 2020-01-01T00:00:00 --json --now".split()
+        done = subprocess.run([RLX, *words, NOW], cwd=self.folder, capture_output=True, timeout=60)
+        self.assertEqual(json.loads(done.stdout)["time"], "23:30:07")
+
+    def test_texts(self):
+        self.assertEqual(self.answer("lang", "text", "40000"), {"text": "Roamlytix"})
+        self.answer("lang", "text", "65535", status=1, messages=["There is no text 65535."])
+
+
+class Surroundings(RlxTest):
+    def test_two_processes_build_one_database(self):
+        self.cities(listed(*(f"x;City {i:04};Land;1;2;0;0;0;0;0;0\n" for i in range(2000))))
+        running = [subprocess.Popen(self.words("city", "list", "--json"), stdout=subprocess.PIPE) for _ in range(3)]
+        answers = [json.loads(process.communicate(timeout=60)[0]) for process in running]
+        self.assertEqual([(len(a["cities"]), a["messages"]) for a in answers], [(2000, [])] * 3)
+        self.assertEqual([process.returncode for process in running], [0] * 3)
+
+    def test_damaged_store_is_kept_aside_and_told_once(self):
+        self.cities(listed("x" + LONDON))
+        self.store.write_bytes(b"not a store")
+        aside = self.folder / "device-2026-07-10-233007.db.damaged"
+        told = f'Your settings could not be read. They were kept as "{aside}" and new settings were made.'
+        self.answer("clocks", messages=[told])
+        self.assertEqual(aside.read_bytes(), b"not a store")
+        self.answer("clocks")
+
+    def test_store_that_keeps_nothing(self):
+        self.cities(listed("x" + LONDON))
+        self.answer("clocks")
+        program = self.folder / "rlx"  # where everybody may run it
+        shutil.copy(RLX, program)
+        self.store.chmod(0o444)
+        self.folder.chmod(0o777)
+        before = self.store.read_bytes()
+        user = {"user": 65534} if os.geteuid() == 0 else {}
+
+        def run(*words):
+            return subprocess.run([program, *self.words(*words, "--json")[1:]], capture_output=True, **user)
+
+        self.assertEqual(run("time", "London").returncode, 0)
+        told = json.loads(run("settings", "set", "a", "b", "--dword", "1").stdout)["messages"]
+        self.assertIn("can only be read", told[0]["text"])
+        self.assertEqual(told[1]["text"], "The setting b of a could not be written.")
+        self.assertEqual(run("city", "rebuild").returncode, 1)
+        self.assertEqual(self.store.read_bytes(), before)
+        self.store = pathlib.Path("/dev/null/device.db")
+        self.assertEqual(self.run_rlx("settings", "set", "a", "b", "--dword", "1").returncode, 1)
+
+    def test_folders(self):
+        self.store = self.folder / "new" / "folder" / "device.db"
+        self.home = self.folder / "nowhere"
+        no_folder = f'The folder "{self.home}" cannot be used for the data files.'
+        self.assertEqual(self.answer("city", "list", messages=[no_folder, NO_FILE]), {"cities": []})
+        self.assertTrue(self.store.is_file())
+
+    def test_closed_and_full_streams(self):
+        self.cities(listed("x" + LONDON))
+        for streams, status in (("<&-", 0), (">&-", 1), ("2>&-", 0), ("<&- 2>&-", 0), (">/dev/full", 1)):
+            with self.subTest(streams):
+                done = subprocess.run(["sh", "-c", f'"$@" {streams}', "sh", *self.words("clocks")], capture_output=True)
+                self.assertEqual((done.returncode, done.stdout == b""), (status, status == 1))
+
+
+if __name__ == "__main__":
+    unittest.main()
