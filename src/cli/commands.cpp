@@ -12,6 +12,8 @@ std::span<const Command> Commands() {
         Command{"settings", "the device's settings: get, set, list", DeclareSettings},
         Command{"skin", "skins: show, check, list, use", DeclareSkin},
         Command{"lang", "languages and their texts", DeclareLang},
+        Command{"tip", "tip and tax on a bill", DeclareTip},
+        Command{"pack", "packing lists: show, add, tick, delete", DeclarePack},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;
