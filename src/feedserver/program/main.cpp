@@ -4,7 +4,9 @@
 
 #include <CLI/CLI.hpp>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <iostream>
 #include <mutex>
 
@@ -120,5 +122,12 @@ int Main(int count, char** values) {
 }  // namespace rlx
 
 int main(int count, char** values) {
-    return rlx::Main(count, values);
+    try {
+        return rlx::Main(count, values);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "roamlytix-feedd: %s\n", error.what());
+    } catch (...) {
+        std::fputs("roamlytix-feedd: unknown failure\n", stderr);
+    }
+    return 1;
 }
