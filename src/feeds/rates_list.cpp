@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "base/calendar.h"
 #include "base/number.h"
 #include "base/read_token.h"
 #include "base/text.h"
+#include "feeds/iso_day.h"
 
 namespace rlx {
 
@@ -30,17 +30,9 @@ CurrencyList LoadRatesList(IFileSystem& files, const std::filesystem::path& appl
     return stream ? ReadRatesList(*stream) : CurrencyList();
 }
 
-std::u16string ShippedRatesDate(IFileSystem& files, const std::filesystem::path& applicationFolder) {
+std::optional<Date> ShippedRatesDate(IFileSystem& files, const std::filesystem::path& applicationFolder) {
     const std::optional<std::string> bytes = files.ReadFile(applicationFolder / kRatesDateFile, 64);
-    if (!bytes) return {};
-    std::u16string text = Trim(Widen(*bytes));
-    if (text.size() != 10 || text[4] != u'-' || text[7] != u'-') return {};
-    const auto year = ParseWholeInteger(text.substr(0, 4), 1, 9999);
-    const auto month = ParseWholeInteger(text.substr(5, 2), 1, 12);
-    const auto day = ParseWholeInteger(text.substr(8, 2), 1, 31);
-    if (!year || !month || !day) return {};
-    return IsValid(Date{static_cast<int>(*year), static_cast<int>(*month), static_cast<int>(*day)}) ? text
-                                                                                                    : std::u16string();
+    return bytes ? ParseIsoDay(Trim(Widen(*bytes))) : std::nullopt;
 }
 
 }  // namespace rlx

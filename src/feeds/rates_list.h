@@ -2,10 +2,12 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "base/byte_stream.h"
+#include "base/calendar.h"
 #include "platform/file_system.h"
 
 namespace rlx {
@@ -34,7 +36,7 @@ CurrencyList ReadRatesList(IByteStream& stream);
 /// "currs.lst" of the application folder; empty when it cannot be read.
 CurrencyList LoadRatesList(IFileSystem& files, const std::filesystem::path& applicationFolder);
 
-/// The day of the list's rates ("2026-09-29") from "currs.date"; empty when it is missing or no date.
-std::u16string ShippedRatesDate(IFileSystem& files, const std::filesystem::path& applicationFolder);
+/// The day of the list's rates, from "currs.date"; nothing when it is missing or no date.
+std::optional<Date> ShippedRatesDate(IFileSystem& files, const std::filesystem::path& applicationFolder);
 
 }  // namespace rlx

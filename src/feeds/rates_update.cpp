@@ -3,6 +3,7 @@
 #include "base/number.h"
 #include "base/text.h"
 #include "feeds/http_url.h"
+#include "feeds/iso_day.h"
 #include "feeds/rates_reply.h"
 #include "shell/setting_names.h"
 
@@ -12,10 +13,6 @@ namespace {
 
 /// A layout higher than this has room for the long label.
 constexpr int kRoomForLongLabel = 244;
-
-std::u16string SortableDate(const Date& date) {
-    return FormatInteger(date.year) + u"-" + FormatTwoDigits(date.month) + u"-" + FormatTwoDigits(date.day);
-}
 
 }  // namespace
 
@@ -72,8 +69,7 @@ std::optional<std::size_t> CRatesUpdate::Store(CCurrencyDatabase& database, std:
 void CRatesUpdate::Remember(CCurrencyDatabase& database, std::u16string_view url) {
     CRegistryStore settings(m_ports.registry);
     const std::optional<Date> date = database.LastModifiedDate();
-    if (date)
-        settings.WriteString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesDate, SortableDate(*date));
+    if (date) settings.WriteString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesDate, IsoDay(*date));
     const std::optional<HttpUrl> address = ParseHttpUrl(url);
     if (address)
         settings.WriteString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesSource, Widen(address->host));

@@ -2,6 +2,8 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "base/text.h"
+#include "feeds/iso_day.h"
 #include "feedserver/rates_table.h"
 
 namespace rlx {
@@ -37,7 +39,7 @@ ParsedRates ParseDailyRates(std::string_view json) {
     const auto rates = document.find("usd");
     if (day == document.end() || !day->is_string()) return {std::nullopt, "no \"date\""};
     if (rates == document.end() || !rates->is_object()) return {std::nullopt, "no \"usd\" table"};
-    const std::optional<Date> date = ParseDay(day->get_ref<const std::string&>());
+    const std::optional<Date> date = ParseIsoDay(Widen(day->get_ref<const std::string&>()));
     if (!date) return {std::nullopt, "\"date\" is no date"};
     RatesTable table{*date, "daily", {}};
     for (const auto& [key, value] : rates->items()) {

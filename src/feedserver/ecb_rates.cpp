@@ -4,6 +4,7 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "feeds/iso_day.h"
 #include "feedserver/rates_table.h"
 
 namespace rlx {
@@ -38,7 +39,7 @@ ParsedRates ParseEcbRates(std::string_view xml) {
     FirstDay first;
     document.traverse(first);
     if (!first.day) return {std::nullopt, "no Cube with a time"};
-    const std::optional<Date> date = ParseDay(first.day.attribute("time").value());
+    const std::optional<Date> date = ParseIsoDay(Widen(first.day.attribute("time").value()));
     if (!date) return {std::nullopt, "the time of the Cube is no date"};
     RatesTable table{*date, "ecb", {{"EUR", 1.0}}};
     for (const pugi::xml_node& node : first.day.children()) {

@@ -11,6 +11,8 @@
 #include <new>
 #include <utility>
 
+#include "base/text.h"
+#include "feeds/iso_day.h"
 #include "feedserver/session_id.h"
 
 namespace rlx {
@@ -55,7 +57,7 @@ Outgoing Plain(unsigned status, std::string body) {
 
 Outgoing Health(const Knowledge& knowledge) {
     std::string body = "rates " + std::to_string(knowledge.rates.size());
-    if (knowledge.ratesDate) body += " of " + DayText(*knowledge.ratesDate) + " from " + knowledge.ratesSource;
+    if (knowledge.ratesDate) body += " of " + Narrow(IsoDay(*knowledge.ratesDate)) + " from " + knowledge.ratesSource;
     body += "\nnews " + (knowledge.news ? knowledge.news->id : std::string("none")) + "\n";
     return Plain(knowledge.rates.empty() ? 503 : 200, std::move(body));
 }

@@ -1,5 +1,8 @@
 #include "feedserver/rates_check.h"
 
+#include "base/text.h"
+#include "feeds/iso_day.h"
+
 namespace rlx {
 
 namespace {
@@ -16,10 +19,10 @@ std::string FaultOf(const RatesTable& fresh, const RatesTable* last, const Date&
                " are expected";
     // A day ahead is a place where it is tomorrow already.
     const std::int64_t age = DayNumber(today) - DayNumber(fresh.date);
-    if (age < -1) return "rates of " + DayText(fresh.date) + ", which is in the future";
-    if (age > kOldestDays) return "rates of " + DayText(fresh.date) + ", which is too long ago";
+    if (age < -1) return "rates of " + Narrow(IsoDay(fresh.date)) + ", which is in the future";
+    if (age > kOldestDays) return "rates of " + Narrow(IsoDay(fresh.date)) + ", which is too long ago";
     if (last != nullptr && fresh.date < last->date)
-        return "rates of " + DayText(fresh.date) + ", older than those of " + DayText(last->date);
+        return "rates of " + Narrow(IsoDay(fresh.date)) + ", older than those of " + Narrow(IsoDay(last->date));
     for (const auto& [code, rate] : fresh.perDollar) {
         if (!(rate >= kLeastRate && rate <= kGreatestRate)) return "the rate of " + code + " is out of range";
     }

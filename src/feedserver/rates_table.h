@@ -34,10 +34,6 @@ ParsedRates ParseDailyRates(std::string_view json);
 /// The list that the application ships.
 RatesTable RatesOfList(const CurrencyList& list, const Date& date, std::string source);
 
-/// "2026-09-29"; nothing when it is no date.
-std::optional<Date> ParseDay(std::string_view text);
-std::string DayText(const Date& date);
-
 /// Eight significant digits, never an exponent, no trailing zeros.
 std::string RateText(double rate);
 

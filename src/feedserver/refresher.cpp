@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "feeds/iso_day.h"
 #include "feeds/rates_list.h"
 #include "feedserver/rates_check.h"
 #include "feedserver/source_reader.h"
@@ -13,7 +14,7 @@ namespace rlx {
 namespace {
 
 std::string KeptForm(const RatesTable& table) {
-    nlohmann::json json = {{"date", DayText(table.date)}, {"usd", table.perDollar}};
+    nlohmann::json json = {{"date", Narrow(IsoDay(table.date))}, {"usd", table.perDollar}};
     return json.dump(1);
 }
 
@@ -30,7 +31,7 @@ CRefresher::CRefresher(IFileSystem& files, CKnowledgeBoard& board, ServerConfig 
 
 void CRefresher::Begin() {
     const CurrencyList list = LoadRatesList(m_files, m_data);
-    const std::optional<Date> date = ParseDay(Narrow(ShippedRatesDate(m_files, m_data)));
+    const std::optional<Date> date = ShippedRatesDate(m_files, m_data);
     if (!list.empty()) m_snapshot = RatesOfList(list, date.value_or(Date{}), "snapshot");
     if (!m_config.news) m_config.news = FeedSource{SourceKind::kNewsFolder, (m_data / "news").string()};
     if (!m_config.keep.empty()) ReadKept();

@@ -26,8 +26,11 @@ std::optional<SourceKind> KindOf(const std::string& name, bool rates) {
 std::string ReadSource(const Json& json, const std::string& where, bool rates, FeedSource& source) {
     if (!json.is_object()) return where + " is no object";
     for (const auto& [key, value] : json.items()) {
-        if (key != "kind" && key != "from") return where + "." + key + " is not known";
-        if (!value.is_string()) return where + "." + key + " is no text";
+        if (key == "kind" || key == "from") {
+            if (value.is_string()) continue;
+            return std::string(where).append(".").append(key).append(" is no text");
+        }
+        return std::string(where).append(".").append(key).append(" is not known");
     }
     const std::string kind = json.value("kind", "");
     source.from = json.value("from", "");

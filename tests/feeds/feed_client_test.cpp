@@ -1,6 +1,7 @@
 #include "feeds/feed_client.h"
 
 #include "feeds/feed_world.h"
+#include "shell/resources.h"
 
 namespace rlx::test {
 namespace {
@@ -229,6 +230,13 @@ TEST(FeedClient, WhatTheUserSeesAndTheRegistryHolds) {
         EXPECT_EQ(server.Requests().size(), row.requests);
         EXPECT_EQ(world.connections.held, 0);
     }
+}
+
+TEST(FeedClient, TheEnglishTextsAreThose) {
+    const CResources english;
+    const CFeedTexts expected;
+    for (const int id : expected.Ids())
+        EXPECT_EQ(english.Text(id), expected.Text(id)) << id;
 }
 
 TEST(FeedClient, SendsHeadersAndBodyInOrder) {

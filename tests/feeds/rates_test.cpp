@@ -2,6 +2,7 @@
 #include "feeds/currency_database.h"
 #include "feeds/feed_world.h"
 #include "feeds/rates_list.h"
+#include "feeds/rates_origin.h"
 #include "feeds/rates_reply.h"
 #include "feeds/rates_update.h"
 #include "platform/posix/posix_file_system.h"
@@ -50,16 +51,21 @@ TEST(RatesList, ReadsItsGrammar) {
 TEST(RatesList, KnowsItsDate) {
     CTempFolder folder;
     CPosixFileSystem files;
-    EXPECT_EQ(ShippedRatesDate(files, folder.Path()), u"");
+    EXPECT_FALSE(ShippedRatesDate(files, folder.Path()));
     EXPECT_TRUE(LoadRatesList(files, folder.Path()).empty());
-    for (const auto& [bytes, date] :
-         std::vector<std::pair<std::string, std::u16string>>{{"2026-09-29\n", u"2026-09-29"},
-                                                             {"2026-02-30\n", u""},
-                                                             {"29/09/2026", u""},
-                                                             {std::string(99, '1'), u""}}) {
-        files.WriteFile(folder.Path() / "currs.date", bytes);
-        EXPECT_EQ(ShippedRatesDate(files, folder.Path()), date) << bytes;
+    for (const std::string bad : {"2026-02-30\n", "29/09/2026", "2026-9-29", "+026-09-29", "2026-09-29 12:00", ""}) {
+        files.WriteFile(folder.Path() / "currs.date", bad);
+        EXPECT_FALSE(ShippedRatesDate(files, folder.Path())) << bad;
     }
+    files.WriteFile(folder.Path() / "currs.date", "2026-09-29\r\n");
+    EXPECT_EQ(ShippedRatesDate(files, folder.Path()), (Date{2026, 9, 29}));
+    CMemoryRegistry registry;
+    const RatesOrigin shipped = OriginOfRates(registry, files, folder.Path());
+    EXPECT_EQ(shipped.date, (Date{2026, 9, 29}));
+    EXPECT_EQ(shipped.source, u"");
+    EXPECT_FALSE(AreRatesOld(shipped, {2026, 10, 6}));
+    EXPECT_TRUE(AreRatesOld(shipped, {2026, 10, 7}));
+    EXPECT_TRUE(AreRatesOld({}, {2026, 10, 7}));
 }
 
 TEST(RatesReply, TakesEntriesApart) {
@@ -209,10 +215,11 @@ TEST(RatesUpdate, TheLabelChangesWithTheDay) {
     const RatesUpdateResult third = world.Update(server);
     EXPECT_EQ(third.label, std::nullopt);
     EXPECT_EQ(third.rates, 0U);
-    EXPECT_EQ(world.settings.ReadString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesDate),
-              u"2026-03-02");
-    EXPECT_EQ(world.settings.ReadString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesSource),
-              u"127.0.0.1");
+    CTempFolder folder;
+    CPosixFileSystem files;
+    const RatesOrigin origin = OriginOfRates(world.registry, files, folder.Path());
+    EXPECT_EQ(origin.date, (Date{2026, 3, 2}));
+    EXPECT_EQ(origin.source, u"127.0.0.1");
 }
 
 TEST(RatesUpdate, TheLabelFitsTheScreen) {

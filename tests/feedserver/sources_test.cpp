@@ -1,3 +1,5 @@
+#include "base/text.h"
+#include "feeds/iso_day.h"
 #include "feedserver/news_item.h"
 #include "feedserver/rates_check.h"
 #include "feedserver/rates_table.h"
@@ -63,7 +65,7 @@ TEST(RateSources, ReadWhatIsGoodAndNameWhatIsWrong) {
         if (!parsed.table) continue;
         EXPECT_EQ(parsed.table->perDollar.size(), row.count);
         EXPECT_DOUBLE_EQ(parsed.table->perDollar.at("EUR"), row.euro);
-        EXPECT_EQ(DayText(parsed.table->date), "2026-11-20");
+        EXPECT_EQ(Narrow(IsoDay(parsed.table->date)), "2026-11-20");
     }
 }
 
@@ -185,7 +187,7 @@ TEST(Refresher, KeepsTheLastGoodAnswer) {
     board.Publish({});
     const auto second = start();
     EXPECT_EQ(board.Get()->rates.at("EUR"), 0.9);
-    EXPECT_EQ(DayText(*board.Get()->ratesDate), "2026-11-21");
+    EXPECT_EQ(Narrow(IsoDay(*board.Get()->ratesDate)), "2026-11-21");
     EXPECT_EQ(board.Get()->news->id, id);
     folder.Put("kept/rates-0.json", "{");
     EXPECT_EQ((start(), board.Get()->rates.at("EUR")), 0.5);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <map>
+#include <vector>
 
 #include "shell/texts.h"
 
@@ -12,6 +13,13 @@ public:
     std::u16string Text(int id) const override {
         const auto found = m_texts.find(id);
         return found == m_texts.end() ? u"<missing text>" : found->second;
+    }
+
+    std::vector<int> Ids() const {
+        std::vector<int> ids;
+        for (const auto& [id, text] : m_texts)
+            ids.push_back(id);
+        return ids;
     }
 
 private:

@@ -4,7 +4,9 @@
 
 #include <CLI/CLI.hpp>
 #include <chrono>
+#include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <iostream>
 #include <mutex>
 
@@ -24,6 +26,7 @@ struct Arguments {
     std::string listen = "127.0.0.1:8765";
     std::string data;
     std::string config;
+    unsigned perAddress = ListenerLimits{}.connectionsOfOne;
     bool check = false;
 };
 
@@ -77,7 +80,9 @@ int Run(const Arguments& arguments, const ServerConfig& config, const ListenAddr
     refresher.Begin();
     if (arguments.check) return refresher.Refresh(clock.Now().date) ? 0 : Fail("not every source can be used");
 
-    CHttpListener listener(board, {}, LogLine);
+    ListenerLimits limits;
+    limits.connectionsOfOne = arguments.perAddress;
+    CHttpListener listener(board, limits, LogLine);
     const std::string fault = HasGivenSocket() ? listener.Serve(kFirstGivenSocket) : listener.Listen(address);
     if (!fault.empty()) return Fail(fault);
     LogLine("listening on port " + std::to_string(listener.Port()));
@@ -91,6 +96,9 @@ int Main(int count, char** values) {
     app.add_option("--listen", arguments.listen, "address and port")->capture_default_str();
     app.add_option("--data", arguments.data, "folder with currs.lst, currs.date and news/ (else the program's own)");
     app.add_option("--config", arguments.config, "JSON file that names the sources");
+    app.add_option("--per-address", arguments.perAddress, "connections from one address; more behind a load balancer")
+        ->check(CLI::Range(1U, ListenerLimits{}.connections))
+        ->capture_default_str();
     app.add_flag("--check", arguments.check, "try configuration and sources, then exit");
     try {
         app.parse(count, values);
@@ -114,5 +122,12 @@ int Main(int count, char** values) {
 }  // namespace rlx
 
 int main(int count, char** values) {
-    return rlx::Main(count, values);
+    try {
+        return rlx::Main(count, values);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "roamlytix-feedd: %s\n", error.what());
+    } catch (...) {
+        std::fputs("roamlytix-feedd: unknown failure\n", stderr);
+    }
+    return 1;
 }
