@@ -13,7 +13,10 @@ std::span<const Command> Commands() {
         Command{"sky", "where the sun stands at an instant", DeclareSky},
         Command{"map", "the night side of the world map", DeclareMap},
         Command{"settings", "the device's settings: get, set, list", DeclareSettings},
+        Command{"skin", "skins: show, check, list, use", DeclareSkin},
         Command{"lang", "languages and their texts", DeclareLang},
+        Command{"tip", "tip and tax on a bill", DeclareTip},
+        Command{"pack", "packing lists: show, add, tick, delete", DeclarePack},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;

@@ -16,7 +16,10 @@ void DeclareSun(CLI::App& app, const SetAction& setAction);
 void DeclareSky(CLI::App& app, const SetAction& setAction);
 void DeclareMap(CLI::App& app, const SetAction& setAction);
 void DeclareSettings(CLI::App& app, const SetAction& setAction);
+void DeclareSkin(CLI::App& app, const SetAction& setAction);
 void DeclareLang(CLI::App& app, const SetAction& setAction);
+void DeclareTip(CLI::App& app, const SetAction& setAction);
+void DeclarePack(CLI::App& app, const SetAction& setAction);
 void DeclareCredits(CLI::App& app, const SetAction& setAction);
 
 }  // namespace rlx::cli
