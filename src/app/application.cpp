@@ -2,7 +2,9 @@
 
 #include <QPlainTextEdit>
 
+#include "base/number.h"
 #include "base/text.h"
+#include "map/ui/sun_details.h"
 #include "places/ui/city_chooser.h"
 #include "shell/clock_settings.h"
 #include "shell/command_ids.h"
@@ -73,11 +75,35 @@ void CApplication::MakeScreens() {
     m_clocksScreen = new CClocksScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, choose);
     m_window->AddScreen(m_clocksScreen);
     connect(m_clocksScreen, &CClocksScreen::CitiesChanged, m_window.get(), &CMainWindow::RefreshScreens);
+    MakeMap();
     MakeTools();
     connect(m_window.get(), &CMainWindow::ScreenShown, this, [this](int index) {
         m_settings->WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kCurrentTab,
                                static_cast<std::uint32_t>(index));
     });
+}
+
+void CApplication::MakeMap() {
+    auto* map = new CMapScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look);
+    map->SetShowInformation([this](CityIndex city) { ShowCityInformation(city); });
+    m_window->AddScreen(map);
+    m_clocksScreen->SetShowSunDetails([this](const CitySunDetails& details) { OpenSunDetails(details); });
+}
+
+void CApplication::ShowCityInformation(CityIndex city) {
+    CCityTimes times(*m_cities, m_clock, m_resources, LoadClockSettings(*m_settings));
+    const CitySunDetails details = SunDetailsOf(*m_cities, times, m_resources, city, m_clock.Now());
+    const MessageBox box{m_resources.Text(kTextCityInformation), CityInfoText(details, m_resources), BoxIcon::kNone,
+                         BoxButtons::kYesNo};
+    if (m_boxes.Show(box) == BoxAnswer::kYes) OpenSunDetails(details);
+}
+
+void CApplication::OpenSunDetails(const CitySunDetails& details) {
+    const bool twelve = m_settings->ReadDwordOr(keys::kRoamlytix, names::kTwelveHour, 0) == 1;
+    const DateTime now = m_clock.Now();
+    CCityTimes times(*m_cities, m_clock, m_resources, LoadClockSettings(*m_settings));
+    const Date date = CityDateOf(ParseInteger(details.effectiveGmt), times.Reference(now), now);
+    ShowSunDetails(details, date, twelve ? ClockForm::kTwelve : ClockForm::kTwentyFour, m_resources, m_window.get());
 }
 
 void CApplication::MakeTools() {
@@ -90,6 +116,8 @@ void CApplication::MakeCommands() {
     m_commands.Add(kCommandTwelveHour, this, [this] { ToggleSetting(keys::kRoamlytix, names::kTwelveHour); })
         ->setCheckable(true);
     m_commands.Add(kCommandDeviceTimeZone, this, [this] { ToggleSetting(keys::kWorldClock, names::kSyncZone); })
+        ->setCheckable(true);
+    m_commands.Add(kCommandShowCities, this, [this] { ToggleSetting(keys::kMap, names::kShowCities, 1); })
         ->setCheckable(true);
     m_commands
         .Add(kCommandFullScreen, this,
@@ -107,12 +135,13 @@ void CApplication::MakeCommands() {
 void CApplication::UpdateChecks() {
     const bool twelve = m_settings->ReadDwordOr(keys::kRoamlytix, names::kTwelveHour, 0) == 1;
     m_commands.Find(kCommandTwelveHour)->setChecked(twelve);
+    m_commands.Find(kCommandShowCities)->setChecked(m_settings->ReadDwordOr(keys::kMap, names::kShowCities, 1) == 1);
     m_commands.Find(kCommandDeviceTimeZone)->setChecked(LoadClockSettings(*m_settings).syncZone != 0);
 }
 
 /// Writes the negation of the current state.
-void CApplication::ToggleSetting(std::u16string_view key, std::u16string_view name) {
-    const bool on = m_settings->ReadDwordOr(key, name, 0) != 0;
+void CApplication::ToggleSetting(std::u16string_view key, std::u16string_view name, std::uint32_t fallback) {
+    const bool on = m_settings->ReadDwordOr(key, name, fallback) != 0;
     m_settings->WriteDword(RootOf(key), key, name, on ? 0 : 1);
     m_window->RefreshScreens();
 }

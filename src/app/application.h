@@ -9,6 +9,7 @@
 #include "app/silent_message_boxes.h"
 #include "base/calendar.h"
 #include "clocks/ui/clocks_screen.h"
+#include "map/ui/map_screen.h"
 #include "places/city_database.h"
 #include "platform/image/image_codec.h"
 #include "platform/posix/frozen_clock.h"
@@ -58,8 +59,11 @@ private:
     void LoadSkin();
     void ApplyLook();
     void UpdateChecks();
-    void ToggleSetting(std::u16string_view key, std::u16string_view name);
+    void ToggleSetting(std::u16string_view key, std::u16string_view name, std::uint32_t fallback = 0);
     void ChooseHomeCity();
+    void MakeMap();
+    void ShowCityInformation(CityIndex city);
+    void OpenSunDetails(const CitySunDetails& details);
     void ShowCredits();
     void ShowAbout();
     std::optional<CityIndex> ChooseCity(QWidget* parent, const QString& title, CityIndex current);
