@@ -15,12 +15,14 @@ class CMapClock : public QAbstractButton {
 public:
     explicit CMapClock(const CLook& look, QWidget* parent = nullptr);
 
-    void Show(const ClockReading& reading, const QString& time);
+    void Show(const ClockReading& reading, const QString& time, const QString& date);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void PaintTall(QPainter& painter, const QRectF& area) const;
+    void PaintFlat(QPainter& painter, const QRectF& area) const;
     void PaintFace(QPainter& painter, const QRectF& area) const;
 
     const CLook& m_look;

@@ -8,7 +8,7 @@ namespace rlx {
 struct MapLayout {
     QRect picture;   ///< the map with its margins
     QRect scrubber;  ///< along the lower edge of the map, as wide as it
-    QRect clock;     ///< below the scrubber, left
+    QRect clock;     ///< below the scrubber or beside the map
     QRect span;      ///< button for day or year
     QRect now;       ///< button that returns to now
     QRect panel;     ///< sunrise and sunset: below all that or to the right, where the map comes out larger

@@ -112,7 +112,8 @@ void CMapScreen::ShowTexts() {
     const ClockReading reading = m_times->AllClocks(shown)[m_mapClock];
     const ClockTextPieces time =
         ClockText(static_cast<int>(reading.hour), reading.minute, reading.second, m_form, m_texts);
-    m_clockButton->Show(reading, ToQString(time.time + time.half));
+    const Date date{reading.year, reading.month, reading.day};
+    m_clockButton->Show(reading, ToQString(time.time + time.half), ToQString(CityDateText(date, false, m_texts)));
     const CityRecord city = m_cities.Record(m_selected).value_or(CityRecord());
     const CitySun day = CitySunToday(city, *m_times, shown);
     const CitySun next = CitySunOn(city, AddDays(day.date, 1));
@@ -258,10 +259,9 @@ void CMapScreen::PaintSun(QPainter& painter) const {
 }
 
 void CMapScreen::PaintMissingImage(QPainter& painter) const {
-    const std::u16string name = m_look.Skin().Name(SkinKey::kMapMI);
     painter.setPen(m_look.PanelText());
     painter.drawText(m_layout.picture.adjusted(8, 8, -8, -8), Qt::AlignCenter | Qt::TextWordWrap,
-                     ToQString(FillText(m_texts.Text(kTextMapImageMissing), {name})));
+                     accessibleDescription());
 }
 
 void CMapScreen::paintEvent(QPaintEvent* /*event*/) {
@@ -275,6 +275,9 @@ void CMapScreen::paintEvent(QPaintEvent* /*event*/) {
         const ClockOffset reference = m_times->Reference(shown);
         const SolarInstant instant = SolarInstantAt(UniversalTime(shown, reference.hours, reference.minutes));
         m_layer.Shade(instant);
+        const std::u16string missing =
+            FillText(m_texts.Text(kTextMapImageMissing), {m_look.Skin().Name(SkinKey::kMapMI)});
+        setAccessibleDescription(m_layer.HasImage() ? QString() : ToQString(missing));
         m_sun = SubsolarPoint(instant);
     }
     painter.drawImage(m_layout.picture, m_layer.Picture());
@@ -282,7 +285,7 @@ void CMapScreen::paintEvent(QPaintEvent* /*event*/) {
     if (!m_layer.HasImage()) PaintMissingImage(painter);
     PaintSun(painter);
     PaintMarks(painter);
-    if (!hasFocus()) return;
+    if (!m_showFocus) return;
     painter.setPen(QPen(m_look.Accent(), 2));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(QRectF(m_layout.picture).adjusted(1, 1, -1, -1));
@@ -320,6 +323,18 @@ void CMapScreen::mousePressEvent(QMouseEvent* event) {
     } else if (m_showInformation) {
         m_showInformation(*city);
     }
+}
+
+void CMapScreen::focusInEvent(QFocusEvent* event) {
+    CScreen::focusInEvent(event);
+    m_showFocus = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    update();
+}
+
+void CMapScreen::focusOutEvent(QFocusEvent* event) {
+    CScreen::focusOutEvent(event);
+    m_showFocus = false;
+    update();
 }
 
 void CMapScreen::keyPressEvent(QKeyEvent* event) {

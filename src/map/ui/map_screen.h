@@ -54,6 +54,8 @@ protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -90,6 +92,7 @@ private:
     std::size_t m_mapClock = 0;  ///< which of the five
     CityIndex m_selected = 0;
     std::int64_t m_shift = 0;  ///< seconds from now to the instant of the map
+    bool m_showFocus = false;  ///< only for those who move by keyboard
     bool m_redraw = true;      ///< the next paint draws the shadow anew
 
     MapLayout m_layout;

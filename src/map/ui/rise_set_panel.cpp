@@ -13,7 +13,9 @@ namespace {
 constexpr double kRadius = 8;
 constexpr double kPadding = 6;
 constexpr double kTitleShare = 1.15;  // of a line's height
-constexpr double kLabelShare = 0.4;   // of the width
+constexpr double kLabelShare = 0.36;  // of the width
+constexpr double kColumnGap = 4;
+constexpr int kLeastFont = 9;
 constexpr double kMostLine = 30;
 
 }  // namespace
@@ -39,15 +41,32 @@ void CRiseSetPanel::Show(const QString& city, const Day& day, const Day& next) {
     update();
 }
 
-void CRiseSetPanel::PaintRow(QPainter& painter, const QRectF& area, const Row& row) const {
-    const double font = area.height() * 0.66;
+/// One size for all rows, at which every cell fits.
+int CRiseSetPanel::FontFor(double width, double line) const {
+    const double label = width * kLabelShare;
+    const double column = (width - label) / 2;
+    QFont font = this->font();
+    font.setBold(true);
+    for (int size = static_cast<int>(line * 0.7);; --size) {
+        font.setPixelSize(std::max(kLeastFont, size));
+        const QFontMetricsF metrics(font);
+        const bool fits = std::all_of(m_rows.begin(), m_rows.end(), [&](const Row& row) {
+            return metrics.horizontalAdvance(row.label) <= label - kColumnGap &&
+                   metrics.horizontalAdvance(row.today) <= column - kColumnGap &&
+                   metrics.horizontalAdvance(row.tomorrow) <= column - kColumnGap;
+        });
+        if (fits || size <= kLeastFont) return font.pixelSize();
+    }
+}
+
+void CRiseSetPanel::PaintRow(QPainter& painter, const QRectF& area, const Row& row, int font) const {
     const double label = area.width() * kLabelShare;
     const double column = (area.width() - label) / 2;
     painter.setPen(m_look.Colour(SkinKey::kMapRSITC));
-    PaintFitted(painter, {area.left(), area.top(), label - 3, area.height()}, row.label, font, Qt::AlignLeft);
+    PaintFitted(painter, {area.left(), area.top(), label - kColumnGap, area.height()}, row.label, font, Qt::AlignLeft);
     if (row.isDayLength) painter.setPen(m_look.Colour(SkinKey::kMapDLC));
     const bool head = row.label.isEmpty();
-    const QRectF first(area.left() + label, area.top(), column - 4, area.height());
+    const QRectF first(area.left() + label, area.top(), column - kColumnGap, area.height());
     PaintFitted(painter, first, row.today, font, Qt::AlignRight, !head);
     PaintFitted(painter, first.translated(column, 0), row.tomorrow, font, Qt::AlignRight);
 }
@@ -66,12 +85,13 @@ void CRiseSetPanel::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(m_look.Colour(SkinKey::kMapRSTTC));
     PaintFitted(painter, title.adjusted(kPadding, 0, -kPadding, 0), m_title, line * 0.72, Qt::AlignLeft, true);
     QRectF area(kPadding, title.bottom(), width() - 2 * kPadding, line);
+    const int font = FontFor(area.width(), line);
     for (const Row& row : m_rows) {
-        PaintRow(painter, area, row);
+        PaintRow(painter, area, row, font);
         area.translate(0, line);
     }
     painter.setPen(m_look.Colour(SkinKey::kMapRSITC));
-    PaintFitted(painter, area, m_note, line * 0.66, Qt::AlignLeft, true);
+    PaintFitted(painter, area, m_note, font, Qt::AlignLeft, true);
 }
 
 }  // namespace rlx

@@ -35,7 +35,8 @@ private:
         bool isDayLength = false;
     };
 
-    void PaintRow(QPainter& painter, const QRectF& area, const Row& row) const;
+    int FontFor(double width, double line) const;
+    void PaintRow(QPainter& painter, const QRectF& area, const Row& row, int font) const;
 
     const CLook& m_look;
     const ITexts& m_texts;
