@@ -177,8 +177,6 @@ enum TextId : int {
     kTextMapTomorrow = 40319,
     kTextMapDay = 40320,
     kTextMapYear = 40321,
-    kTextMapUniversalTime = 40322,
-    kTextMapSun = 40323,
     kTextMapScrubber = 40324,
     kTextMapPicture = 40325,
 
