@@ -73,10 +73,16 @@ void CApplication::MakeScreens() {
     m_clocksScreen = new CClocksScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, choose);
     m_window->AddScreen(m_clocksScreen);
     connect(m_clocksScreen, &CClocksScreen::CitiesChanged, m_window.get(), &CMainWindow::RefreshScreens);
+    MakeTools();
     connect(m_window.get(), &CMainWindow::ScreenShown, this, [this](int index) {
         m_settings->WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kCurrentTab,
                                static_cast<std::uint32_t>(index));
     });
+}
+
+void CApplication::MakeTools() {
+    m_toolsScreen = new CToolsScreen(*m_settings, m_resources, m_look);
+    m_window->AddScreen(m_toolsScreen);
 }
 
 void CApplication::MakeCommands() {

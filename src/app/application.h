@@ -18,6 +18,7 @@
 #include "shell/application_folder.h"
 #include "shell/registry_store.h"
 #include "shell/resources.h"
+#include "tools/ui/tools_screen.h"
 #include "uikit/look.h"
 #include "uikit/qt_message_boxes.h"
 #include "uikit/template_menu.h"
@@ -51,6 +52,7 @@ private:
     void OpenStore();
     void OpenFolder();
     void MakeScreens();
+    void MakeTools();
     void MakeCommands();
     void RestoreScreen();
     void LoadSkin();
@@ -79,6 +81,7 @@ private:
     CCommandTable m_commands;
     std::unique_ptr<CMainWindow> m_window;
     CClocksScreen* m_clocksScreen = nullptr;  ///< owned by the window
+    CToolsScreen* m_toolsScreen = nullptr;    ///< owned by the window
 };
 
 }  // namespace rlx

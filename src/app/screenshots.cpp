@@ -11,6 +11,14 @@ namespace {
 constexpr int kSmallestSide = 100;
 constexpr int kLargestSide = 8192;
 
+QString NameOf(const CScreen& screen, int view, const QSize& size) {
+    const QString viewName = screen.ViewName(view);
+    return QStringLiteral("%1%2-%3x%4.png")
+        .arg(screen.IconName(), viewName.isEmpty() ? QString() : "-" + viewName)
+        .arg(size.width())
+        .arg(size.height());
+}
+
 }  // namespace
 
 std::optional<std::vector<QSize>> ParseSizes(const QString& text) {
@@ -36,14 +44,13 @@ std::optional<QStringList> RenderScreens(CMainWindow& window, const QString& fol
         window.show();
         for (std::size_t i = 0; i < window.Screens().size(); ++i) {
             window.ShowScreen(static_cast<int>(i));
-            QApplication::processEvents();
-            const QString name = QStringLiteral("%1-%2x%3.png")
-                                     .arg(window.Screens()[i]->IconName())
-                                     .arg(size.width())
-                                     .arg(size.height());
-            const QString path = QDir(folder).filePath(name);
-            if (!window.grab().save(path)) return std::nullopt;
-            written << path;
+            for (int view = 0; view < window.Screens()[i]->ViewCount(); ++view) {
+                const QString path = QDir(folder).filePath(NameOf(*window.Screens()[i], view, size));
+                window.Screens()[i]->ShowView(view);
+                QApplication::processEvents();
+                if (!window.grab().save(path)) return std::nullopt;
+                written << path;
+            }
         }
     }
     return written;

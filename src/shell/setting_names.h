@@ -39,6 +39,7 @@ inline constexpr std::u16string_view kNewNews = u"newnews";        ///< 1: there
 inline constexpr std::u16string_view kNewsRead = u"newsread";      ///< 1: the fetched page has been shown
 inline constexpr std::u16string_view kTodayCities = u"todaynbcs";  ///< number of clocks on the home screen
 inline constexpr std::u16string_view kTodayRates = u"todayscur";   ///< 1: rates on the home screen
+inline constexpr std::u16string_view kToolPage = u"toolpage";      ///< page of Tools shown last, from 1; 0: the list
 
 /// Values of `keys::kWorldClock`: `CityIndex` of the home city and the four others.
 inline constexpr std::u16string_view kHomeClock = u"clock";

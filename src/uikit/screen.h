@@ -35,6 +35,15 @@ public:
 
     /// Called once the screen is shown for the first time or again.
     virtual void Entered() {}
+
+    /// How many views a set of pictures has to show for the screen to be seen whole.
+    virtual int ViewCount() const { return 1; }
+
+    /// Names a view in the pictures' file names; empty for the first.
+    virtual QString ViewName(int /*view*/) const { return {}; }
+
+    /// Shows a view, for a picture: asks nothing and remembers nothing.
+    virtual void ShowView(int /*view*/) {}
 };
 
 }  // namespace rlx
