@@ -12,6 +12,8 @@
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
 #include "skins/skin_loader.h"
+#include "tools/packing/ui/packing_page.h"
+#include "tools/tiptax/ui/tip_page.h"
 #include "uikit/qt_text.h"
 #include "uikit/template_dialog.h"
 
@@ -82,6 +84,8 @@ void CApplication::MakeScreens() {
 
 void CApplication::MakeTools() {
     m_toolsScreen = new CToolsScreen(*m_settings, m_resources, m_look);
+    m_toolsScreen->AddPage(new CPackingPage(m_files, m_folder->Root(), m_resources, m_boxes, m_look));
+    m_toolsScreen->AddPage(new CTipPage(m_resources, m_boxes, m_look));
     m_window->AddScreen(m_toolsScreen);
 }
 

@@ -355,6 +355,9 @@ enum TextId : int {
     kTextPackedCount = 41020,
     kTextTemplates = 41021,
     kTextEmptyTemplate = 41022,
+    kTextNoItemsYet = 41023,
+    kTextNoneChecked = 41024,
+    kTextAllChecked = 41025,
     kTextCategoryBefore = 41030,
     kTextListBefore = 41031,
     kTextPackingNotFound = 41032,
@@ -385,6 +388,8 @@ enum TextId : int {
     kTextEachPays = 41107,
     kTextTax = 41108,
     kTextCannotSplit = 41110,
+    kTextTwoShares = 41111,
+    kTextPercent = 41112,
 
     // News and feeds.
     kTextConnectionBefore = 41200,
