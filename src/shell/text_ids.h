@@ -172,6 +172,15 @@ enum TextId : int {
     kTextMapTip = 40314,
     kTextMapImageMissing = 40315,
     kTextImageBroken = 40316,
+    kTextMapMarginTooWide = 40317,
+    kTextMapToday = 40318,
+    kTextMapTomorrow = 40319,
+    kTextMapDay = 40320,
+    kTextMapYear = 40321,
+    kTextMapUniversalTime = 40322,
+    kTextMapSun = 40323,
+    kTextMapScrubber = 40324,
+    kTextMapPicture = 40325,
 
     // Weather.
     kTextForecast = 40400,
