@@ -276,6 +276,13 @@ enum TextId : int {
     kTextSwapCurrencies = 40502,
     kTextCurrencySearchHint = 40503,
     kTextChooseCurrency = 40504,
+    kTextRatesShipped = 40505,
+    kTextNoSuchCurrency = 40506,
+    kTextNoRates = 40507,
+    kTextCopyResult = 40508,
+    kTextAmountIn = 40509,
+    kTextNotAnAmount = 40510,
+    kTextUpdatingRates = 40511,
 
     // The frame of the Tools screen.
     kTextBackToTools = 40600,
@@ -416,6 +423,9 @@ enum TextId : int {
     kTextLoopbackNetwork = 41220,
     kTextRatesNotSaved = 41221,
     kTextNewsNotSaved = 41222,
+    kTextFetchingNews = 41223,
+    kTextLargerText = 41224,
+    kTextSmallerText = 41225,
 
     // Skins.
     kTextSkinNotFound = 41300,
