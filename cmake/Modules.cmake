@@ -2,7 +2,8 @@
 #   rlx_module(places DEPENDS shell)                    src/places/*.cpp      -> library rlx_places
 #   rlx_module(tools_packing PATH tools/packing ...)    src/tools/packing/*.cpp
 #   rlx_ui_module(clocks PATH clocks/ui ...)            the same with Qt      -> library rlx_clocks_ui
-#   rlx_tests(places DEPENDS places fake)               tests/places/*_test.cpp -> one test program, one ctest entry a test
+#   rlx_tests(places DEPENDS places fake)               tests/places/*_test.cpp -> one test program, one ctest entry
+#   rlx_ui_tests(clocks DEPENDS clocks_ui fake)         tests/ui/clocks/*_test.cpp -> the same, driving widgets offscreen
 # DEPENDS names modules without their prefix; LIBRARIES names anything else. A folder without sources makes nothing.
 
 function(rlx_library_ target path)
@@ -101,4 +102,35 @@ function(rlx_tests name)
     target_link_libraries(test_${name} PRIVATE ${arg_LIBRARIES} GTest::gtest_main)
     add_test(NAME ${name} COMMAND test_${name} --gtest_brief=1)
     set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
+
+# One precompiled header for all tests that drive widgets.
+function(rlx_declare_qt_test_pch)
+    add_executable(rlx_qt_test_pch ${CMAKE_SOURCE_DIR}/tests/support/qt_main.cpp)
+    rlx_strict(rlx_qt_test_pch)
+    target_link_libraries(rlx_qt_test_pch PUBLIC GTest::gtest Qt6::Widgets Qt6::Svg Qt6::Test)
+    target_precompile_headers(rlx_qt_test_pch PRIVATE <gtest/gtest.h> <QtWidgets> <QtTest> <string> <vector> <memory>
+        <optional> <functional>)
+endfunction()
+
+function(rlx_ui_tests name)
+    cmake_parse_arguments(arg "" "PATH" "DEPENDS" ${ARGN})
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/ui/${name}/*.cpp ${CMAKE_SOURCE_DIR}/tests/ui/${name}/*.h)
+    if(NOT sources OR NOT RLX_WINDOW)
+        return()
+    endif()
+    set(target test_ui_${name})
+    add_executable(${target} ${sources} ${CMAKE_SOURCE_DIR}/tests/support/qt_main.cpp)
+    target_include_directories(${target} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests
+        ${CMAKE_BINARY_DIR}/generated)
+    rlx_strict(${target})
+    target_precompile_headers(${target} REUSE_FROM rlx_qt_test_pch)
+    foreach(module IN LISTS arg_DEPENDS)
+        if(TARGET rlx_${module})
+            target_link_libraries(${target} PRIVATE rlx_${module})
+        endif()
+    endforeach()
+    target_link_libraries(${target} PRIVATE Qt6::Widgets Qt6::Svg Qt6::Test GTest::gtest)
+    add_test(NAME ui_${name} COMMAND ${target} --gtest_brief=1)
+    set_tests_properties(ui_${name} PROPERTIES TIMEOUT 300 ENVIRONMENT QT_QPA_PLATFORM=offscreen)
 endfunction()

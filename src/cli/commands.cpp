@@ -10,7 +10,10 @@ std::span<const Command> Commands() {
         Command{"city", "cities: show, list, find, rebuild", DeclareCity},
         Command{"time", "local time and date of a city", DeclareTime},
         Command{"settings", "the device's settings: get, set, list", DeclareSettings},
+        Command{"skin", "skins: show, check, list, use", DeclareSkin},
         Command{"lang", "languages and their texts", DeclareLang},
+        Command{"tip", "tip and tax on a bill", DeclareTip},
+        Command{"pack", "packing lists: show, add, tick, delete", DeclarePack},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;

@@ -13,7 +13,10 @@ void DeclareClocks(CLI::App& app, const SetAction& setAction);
 void DeclareCity(CLI::App& app, const SetAction& setAction);
 void DeclareTime(CLI::App& app, const SetAction& setAction);
 void DeclareSettings(CLI::App& app, const SetAction& setAction);
+void DeclareSkin(CLI::App& app, const SetAction& setAction);
 void DeclareLang(CLI::App& app, const SetAction& setAction);
+void DeclareTip(CLI::App& app, const SetAction& setAction);
+void DeclarePack(CLI::App& app, const SetAction& setAction);
 void DeclareCredits(CLI::App& app, const SetAction& setAction);
 
 }  // namespace rlx::cli

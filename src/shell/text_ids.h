@@ -405,6 +405,9 @@ enum TextId : int {
     kTextOwnerName = 41209,
     kTextDontAskForConnection = 41210,
     kTextFeedServerMissing = 41211,
+    kTextLoopbackNetwork = 41220,
+    kTextRatesNotSaved = 41221,
+    kTextNewsNotSaved = 41222,
 
     // Skins.
     kTextSkinNotFound = 41300,
@@ -416,6 +419,9 @@ enum TextId : int {
     kTextInvalidMark = 41306,
     kTextSkinTooLong = 41307,
     kTextDefaultSkin = 41308,
+    kTextSkinComplete = 41309,
+    kTextSkinPathRefused = 41310,
+    kTextNoSuchFolder = 41311,
     kTextSkinFileNotOpened = 41320,
     kTextSkinSectionMissing = 41321,
     kTextSkinKeyMissing = 41322,

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/text.h"
 #include "shell/boxes.h"
 
 namespace rlx {
@@ -50,7 +51,10 @@ bool CPackingOrganizer::SelectNamed(std::u16string_view category, std::u16string
 }
 
 std::optional<std::size_t> CPackingOrganizer::ItemNamed(std::u16string_view text) {
-    const std::optional<std::size_t> item = m_lists.FindItem(m_current, text);
+    std::optional<std::size_t> item = m_lists.FindItem(m_current, text);
+    for (std::size_t i = 0; !item && i < CurrentList().items.size(); ++i) {
+        if (EqualIgnoringCase(CurrentList().items[i].text, text)) item = i;
+    }
     if (!item) RefuseNamed(kTextItemBefore, text, kTextPackingNotFound);
     return item;
 }

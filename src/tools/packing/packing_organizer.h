@@ -52,7 +52,8 @@ public:
     /// By names; an empty list name means "All Items". A name that is not there is told.
     bool SelectNamed(std::u16string_view category, std::u16string_view list);
 
-    /// The place of an item of the current list; one that is not there is told.
+    /// The place of an item of the current list: that text, or the first that differs in case alone. One that is not
+    /// there is told.
     std::optional<std::size_t> ItemNamed(std::u16string_view text);
 
     PackingFilter Filter() const { return m_filter; }

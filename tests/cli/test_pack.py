@@ -1,0 +1,153 @@
+#!/usr/bin/env python3
+"""`rlx pack` and `rlx tip` from outside: what they answer, refuse and leave in "pack.dat"."""
+
+import unittest
+
+from rlx_program import RlxTest
+
+NEW = b">\r\nAll\r\n*\r\nAll Items\r\n<"
+MISSING = "{} < {} > was not found."
+BAD_ITEM = "An item needs a text of one line that does not begin with <, > or *."
+BAD_NAME = "A name needs a text of one line, at most 50 characters, that does not begin with <, > or *."
+CLEAR_CATEGORY = "All Items of All Lists in this Category will be deleted, Continue ?"
+CLEAR_EVERYTHING = "All Items of All Lists of All Categories will be deleted, Continue ?"
+
+
+def packed(*categories):
+    """The bytes of ("All", ("All Items", "Passport1", ...), ...), ..."""
+    lines = []
+    for name, *lists in categories:
+        lines += [">", name]
+        for one in lists:
+            lines += ["*", *one]
+    return "".join(line + "\r\n" for line in lines).encode() + b"<"
+
+
+class Pack(RlxTest):
+    def setUp(self):
+        super().setUp()
+        self.file, self.backup = self.home / "pack.dat", self.home / "pack.dat.bak"
+
+    def trip(self):
+        self.file.write_bytes(packed(("All", ("All Items", "Map0", "Hat1"), ("Desk", "Map1")),
+                                     ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat1"), ("bag",))))
+
+    def test_new_file(self):
+        empty = {"categories": [{"name": "All", "lists": [{"name": "All Items", "items": []}]}]}
+        self.assertEqual(self.answer("pack", "show"), empty)
+        self.assertEqual(self.file.read_bytes(), b"")
+        self.assertEqual(self.answer("pack", "uncheck", "All", "All Items"), empty)
+        self.assertEqual(self.file.read_bytes(), NEW)
+
+    def test_what_is_saved(self):
+        steps = (("add-category", "Trip"), ("add-list", "trip", "Bag"), ("add-item", "Trip", "Bag", "Size 1"),
+                 ("add-item", "Trip", "Bag", "Zoë 😀"), ("tick", "Trip", "Bag", "SIZE 1"),
+                 ("add-item", "All", "All Items", "Map"))
+        for step in steps:
+            answer = self.answer("pack", *step)
+            self.assertEqual(self.answer("pack", "show"), answer)
+        self.assertEqual(self.file.read_bytes(),
+                         packed(("All", ("All Items", "Size 10", "Zoë 😀0", "Map0")),
+                                ("Trip", ("All Items", "Size 10", "Zoë 😀0"), ("Bag", "Size 11", "Zoë 😀0"))))
+        self.assertEqual(answer["categories"][1]["lists"][1]["items"],
+                         [{"text": "Size 1", "ticked": True}, {"text": "Zoë 😀", "ticked": False}])
+        done = self.run_rlx("pack", "show")
+        self.assertTrue(done.stdout.decode().endswith("  Bag\n    [x] Size 1\n    [ ] Zoë 😀\n"), done.stdout)
+        self.assertFalse(self.backup.exists())
+
+    def test_changes(self):
+        everything = ("All", ("All Items", "Map0", "Hat1"), ("Desk", "Map1"))
+        trip = ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat1"), ("bag",))
+        rows = (  # words, messages, categories afterwards
+            ("untick|All|All Items|Hat", [], [("All", ("All Items", "Map0", "Hat0"), ("Desk", "Map1")), trip]),
+            ("tick|Trip|Bag|Hat", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat1", "hat1"), ("bag",))]),
+            ("uncheck|Trip|Bag", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat0"), ("bag",))]),
+            ("add-item|trip|bag|Map", [], [everything, ("Trip", ("All Items", "Hat0", "Map0"), trip[2], ("bag", "Map0"))]),
+            ("delete-item|Trip|Bag|hat", [], [everything, ("Trip", trip[1], ("Bag", "Hat0"), ("bag",))]),
+            ("delete-item|Trip|Bag|HAT", [], [everything, ("Trip", trip[1], ("Bag", "hat1"), ("bag",))]),
+            ("delete-list|Trip|Bag", [], [everything, ("Trip", ("All Items", "Hat0"), ("bag",))]),
+            ("delete-list|Trip|BAG", [], [everything, ("Trip", ("All Items", "Hat0"), ("bag",))]),
+            ("delete-category|TRIP", [], [everything]),
+            ("clear|Trip|Bag", [], [everything, ("Trip", trip[1], ("Bag",), ("bag",))]),
+            ("clear|Trip|All Items|--yes", [CLEAR_CATEGORY], [everything, ("Trip", ("All Items",), ("Bag",), ("bag",))]),
+            ("clear|All|All Items|--yes", [CLEAR_EVERYTHING],
+             [("All", ("All Items",), ("Desk",)), ("Trip", ("All Items",), ("Bag",), ("bag",))]),
+        )
+        for words, messages, after in rows:
+            with self.subTest(words):
+                self.trip()
+                self.answer("pack", *words.split("|"), messages=messages)
+                self.assertEqual(self.file.read_bytes(), packed(*after))
+
+    def test_refusals_write_nothing(self):
+        rows = (
+            ("add-category|trip", "Category < trip > already exists!"), ("add-category|", BAD_NAME),
+            ("add-category|" + "n" * 51, BAD_NAME), ("add-category|>x", BAD_NAME), ("add-list|Trip|a\nb", BAD_NAME),
+            ("add-list|Trip|BAG", "List < BAG > already exists!"), ("add-list|No|x", MISSING.format("Category", "No")),
+            ("add-item|Trip|Bag|Hat", "Item < Hat > already exists!"), ("add-item|Trip|Bag|*", BAD_ITEM),
+            ("add-item|Trip|Bag| ", BAD_ITEM), ("add-item|Trip|Bag|a\r\nb", BAD_ITEM),
+            ("add-item|Trip|No|x", MISSING.format("List", "No")), ("tick|Trip|Bag|No", MISSING.format("Item", "No")),
+            ("delete-item|Trip|bag|Hat", MISSING.format("Item", "Hat")),
+            ("delete-category|all", "Can't delete <All> category!"),
+            ("delete-list|Trip|All Items", "Can't delete <All Items> List!"),
+            ("delete-list|Trip|No", MISSING.format("List", "No")), ("uncheck|No|x", MISSING.format("Category", "No")),
+            ("clear|Trip|All Items", CLEAR_CATEGORY), ("clear|All|All Items|--no", CLEAR_EVERYTHING),
+        )
+        self.trip()
+        before = self.file.read_bytes()
+        for words, message in rows:
+            with self.subTest(words):
+                self.assertEqual(self.answer("pack", *words.split("|"), status=1, messages=[message]), {})
+                self.assertEqual((self.file.read_bytes(), self.backup.exists()), (before, False))
+
+    def test_no_more_than_fits(self):
+        for what, first, message in (("category", 1, "Max. of categories reached!"), ("list", 1, "Max. of lists reached!")):
+            words = ["pack", f"add-{what}", *(["All"] if what == "list" else [])]
+            for number in range(first, 10):
+                self.answer(*words, f"n{number}")
+            before = self.file.read_bytes()
+            self.answer(*words, "n10", status=1, messages=[message])
+            self.assertEqual(self.file.read_bytes(), before)
+
+    def test_malformed_file_is_kept_beside(self):
+        self.file.write_bytes(b"shopping: milk\n")
+        self.answer("pack", "show")
+        self.assertEqual((self.file.read_bytes(), self.backup.exists()), (b"shopping: milk\n", False))
+        self.answer("pack", "add-item", "All", "All Items", "Hat")
+        self.assertEqual(self.backup.read_bytes(), b"shopping: milk\n")
+        self.assertEqual(self.file.read_bytes(), packed(("All", ("All Items", "Hat0"))))
+
+    def test_file_that_cannot_be_replaced(self):
+        self.file.mkdir()
+        self.answer("pack", "add-category", "Trip", status=1,
+                    messages=["The packing list could not be saved. The old file is unchanged."])
+        self.assertEqual(list(self.home.iterdir()), [self.file])
+
+
+class Tip(RlxTest):
+    def test_answers(self):
+        rows = (  # words, first amount, second amount, total
+            ("100 --first 15 --second 8", "= 15.00", "= 8.00", "123.00"),
+            ("100 --first 15 --second 8 --no-first --no-second", "= 15.00", "= 8.00", "100.00"),
+            ("100 --first 15 --second 8 --no-first", "= 15.00", "= 8.00", "108.00"),
+            ("100 --no-second --first 15 --second 8", "= 15.00", "= 8.00", "115.00"),
+            ("80.5", "= 0.00", "= 0.00", "80.50"), ("12abc --first 100", "= 12.00", "= 0.00", "24.00"),
+            ("-20 --first 10", "= -2.00", "= -0.00", "-22.00"), ("-0.5 --first 0", "= -0.00", "= -0.00", "-0.50"),
+            ("abc --first 10", "= 0.00", "= 0.00", "0.00"))
+        for words, first, second, total in rows:
+            with self.subTest(words):
+                self.assertEqual(self.answer("tip", *words.split()),
+                                 {"firstAmount": first, "secondAmount": second, "total": total})
+        self.assertEqual(list(self.folder.iterdir()), [self.home])
+
+    def test_refused_rate_counts_as_before(self):
+        for first, second, told in (("100.01", "8", 1), ("-1", "8", 1), ("101", "nan", 2)):
+            with self.subTest(first):
+                answer = self.answer("tip", "100", "--first", first, "--second", second,
+                                     messages=["Value must be between 0% and 100%"] * told)
+                self.assertEqual(answer["firstAmount"], "= 0.00")
+                self.assertEqual(answer["total"], "108.00" if told == 1 else "100.00")
+
+
+if __name__ == "__main__":
+    unittest.main()

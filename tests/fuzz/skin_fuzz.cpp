@@ -1,0 +1,32 @@
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+#include "../support/memory_files.h"
+#include "skins/skin.h"
+#include "skins/skin_file.h"
+#include "skins/skin_validator.h"
+#include "skins/skin_writer.h"
+
+// Any bytes as a skin: every lookup answers, no path leaves the folder, and an edit that was written reads back.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace rlx;
+    const std::filesystem::path file = "/skins/any.skn";
+    test::CMemoryFiles files;
+    files.files[file] = std::string(reinterpret_cast<const char*>(data), size);
+    files.files["/outside.jpg"] = files.files["/skins/P/pic.jpg"] = "picture";
+    ValidateSkin(files, file);
+    const CSkin skin(*ReadSkinText(files, file), file.parent_path());
+    for (const SkinKeyRow& row : kSkinKeys) {
+        skin.Colour(row.key);
+        const auto picture = skin.Picture(files, row.key, SkinLayout::kPortrait);
+        if (picture && picture->string().find("/skins/") != 0) std::abort();
+    }
+    CSkinEdit edit;
+    edit.SetColour(SkinKey::kMapSHADCLR, 0x123456);
+    const auto result = WriteSkin(files, file, edit, false);
+    const bool written = result.status == SkinWriteStatus::kWritten && result.linesMissing.empty();
+    if (written && files.files[file].find("SHADCLR@1193046") == std::string::npos) std::abort();
+    return 0;
+}

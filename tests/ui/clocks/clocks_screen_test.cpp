@@ -1,0 +1,132 @@
+#include "clocks/ui/clocks_screen.h"
+
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "clocks/ui/clocks_layout.h"
+#include "platform/image/image_codec.h"
+#include "support/places_on_device.h"
+
+namespace rlx {
+namespace {
+
+class ClocksScreen : public ::testing::Test {
+protected:
+    ClocksScreen() {
+        screen.resize(480, 640);
+        screen.show();
+        QCoreApplication::processEvents();
+    }
+
+    QPoint Card(std::size_t clock) const { return LayOutClocks(screen.rect())[clock].card.center().toPoint(); }
+
+    std::uint32_t Stored(std::u16string_view name) {
+        return device.settings.ReadDword(RootOf(keys::kWorldClock), keys::kWorldClock, name);
+    }
+
+    test::PlacesOnDevice device;
+    CImageCodec codec;
+    CLook look{device.files, codec};
+    std::optional<CityIndex> choice;
+    QString chooserTitle;
+    CClocksScreen screen{device.cities,
+                         device.clock,
+                         device.settings,
+                         device.resources,
+                         device.boxes,
+                         look,
+                         [this](QWidget*, const QString& title, CityIndex) {
+                             chooserTitle = title;
+                             return choice;
+                         }};
+};
+
+TEST_F(ClocksScreen, TapTellsAboutTheCityAndYesLeadsToItsSun) {
+    std::vector<CitySunDetails> shown;
+    screen.SetShowSunDetails([&](const CitySunDetails& details) { shown.push_back(details); });
+    QTest::mouseClick(&screen, Qt::LeftButton, {}, Card(2));
+    ASSERT_EQ(device.boxes.shown.size(), 1U);
+    EXPECT_EQ(device.boxes.shown[0].title, u"City information");
+    EXPECT_EQ(device.boxes.shown[0].text,
+              u"City: New York\nCountry: United States\nLong: -74 Lat: 40.7\nDaylight saving: Not observing now\n"
+              u"DST start/end: 8/3/2026 - 1/11/2026\nGmt: -5h");
+    EXPECT_TRUE(shown.empty());  // the box was closed with no
+    device.boxes.answers = {BoxAnswer::kYes};
+    QTest::keyClick(&screen, Qt::Key_Return);
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].name, u"New York");
+}
+
+TEST_F(ClocksScreen, AnotherCityIsStoredAtOnceAndHomeIsNamed) {
+    QSignalSpy changed(&screen, &CClocksScreen::CitiesChanged);
+    screen.ChangeCity(2);  // called off
+    EXPECT_EQ(Stored(names::kClocks[1]), 2U);
+    EXPECT_EQ(changed.count(), 0);
+    choice = 4;
+    screen.ChangeCity(2);
+    EXPECT_EQ(chooserTitle, "City of clock 2");
+    EXPECT_EQ(Stored(names::kClocks[1]), 4U);
+    choice = 1;
+    screen.ChangeCity(0);
+    EXPECT_EQ(Stored(names::kHomeClock), 1U);
+    EXPECT_EQ(device.settings.ReadString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kHomeName), u"London");
+    EXPECT_EQ(changed.count(), 2);
+}
+
+TEST_F(ClocksScreen, KeysMoveBetweenTheClocksAndSayWhichOne) {
+    screen.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(screen.accessibleDescription(), "Amsterdam, 21:10:05, 22/11/2026    Sun");
+    QTest::keyClick(&screen, Qt::Key_Down);
+    EXPECT_TRUE(screen.accessibleDescription().startsWith("London")) << screen.accessibleDescription().toStdString();
+    QTest::keyClick(&screen, Qt::Key_Right);
+    EXPECT_TRUE(screen.accessibleDescription().startsWith("New York"));
+    QTest::keyClick(&screen, Qt::Key_Down);
+    EXPECT_EQ(screen.accessibleDescription(), "Tokyo, 05:10:05, 23/11 Mon");
+    device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kTwelveHour, 1);
+    screen.Refresh();
+    QTest::keyClick(&screen, Qt::Key_Up);
+    EXPECT_EQ(screen.accessibleDescription(), "New York, 3:10:05 PM, 22/11 Sun");
+}
+
+TEST_F(ClocksScreen, MenuMakesAClockTheHomeClock) {
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, Card(1), screen.mapToGlobal(Card(1)));
+    QApplication::sendEvent(&screen, &asked);
+    auto* menu = screen.findChild<QMenu*>("clockMenu");
+    ASSERT_TRUE(menu != nullptr && menu->isVisible());
+    const auto actions = menu->actions();
+    const auto asHome = std::find_if(actions.begin(), actions.end(),
+                                     [](const QAction* action) { return action->text() == "Use as &home city"; });
+    ASSERT_NE(asHome, actions.end());
+    (*asHome)->trigger();
+    menu->close();
+    EXPECT_EQ(Stored(names::kHomeClock), 1U);
+    EXPECT_EQ(Stored(names::kClocks[0]), 0U);
+}
+
+TEST_F(ClocksScreen, TipIsShownOnce) {
+    device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kClocksTip, 0);
+    screen.Entered();
+    screen.Entered();
+    EXPECT_EQ(device.boxes.shown.size(), 1U);
+}
+
+TEST(ClocksLayout, CardsNeverOverlapNorLeaveTheScreen) {
+    const QSizeF sizes[] = {{240, 250}, {320, 210},  {360, 640},  {480, 560},
+                            {800, 450}, {1280, 770}, {240, 1200}, {1800, 240}};
+    for (const QSizeF& size : sizes) {
+        const QRectF area(QPointF(0, 0), size);
+        const ClocksLayout layout = LayOutClocks(area);
+        for (std::size_t i = 0; i < layout.size(); ++i) {
+            EXPECT_TRUE(area.contains(layout[i].card)) << size.width() << "x" << size.height() << " clock " << i;
+            EXPECT_TRUE(layout[i].card.contains(layout[i].texts));
+            EXPECT_FALSE(layout[i].face.intersects(layout[i].texts));
+            EXPECT_GE(layout[i].texts.width(), 40);
+            for (std::size_t j = 0; j < i; ++j)
+                EXPECT_FALSE(layout[i].card.intersects(layout[j].card));
+        }
+    }
+}
+
+}  // namespace
+}  // namespace rlx
