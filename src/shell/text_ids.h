@@ -279,7 +279,6 @@ enum TextId : int {
     kTextRatesShipped = 40505,
     kTextNoSuchCurrency = 40506,
     kTextNoRates = 40507,
-    kTextCopyResult = 40508,
     kTextAmountIn = 40509,
     kTextNotAnAmount = 40510,
     kTextUpdatingRates = 40511,
