@@ -14,6 +14,11 @@
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
 #include "skins/skin_loader.h"
+#include "tools/clothing/ui/clothing_tool.h"
+#include "tools/converter/ui/converter_tool.h"
+#include "tools/dialing/ui/dialing_tool.h"
+#include "tools/packing/ui/packing_page.h"
+#include "tools/tiptax/ui/tip_page.h"
 #include "uikit/qt_text.h"
 #include "uikit/template_dialog.h"
 
@@ -108,6 +113,11 @@ void CApplication::OpenSunDetails(const CitySunDetails& details) {
 
 void CApplication::MakeTools() {
     m_toolsScreen = new CToolsScreen(*m_settings, m_resources, m_look);
+    m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), m_resources, m_boxes, m_look));
+    m_toolsScreen->AddPage(new CDialingTool(m_resources, m_look));
+    m_toolsScreen->AddPage(new CClothingTool(m_resources, m_look));
+    m_toolsScreen->AddPage(new CPackingPage(m_files, m_folder->Root(), m_resources, m_boxes, m_look));
+    m_toolsScreen->AddPage(new CTipPage(m_resources, m_boxes, m_look));
     m_window->AddScreen(m_toolsScreen);
 }
 

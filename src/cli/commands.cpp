@@ -17,6 +17,9 @@ std::span<const Command> Commands() {
         Command{"lang", "languages and their texts", DeclareLang},
         Command{"tip", "tip and tax on a bill", DeclareTip},
         Command{"pack", "packing lists: show, add, tick, delete", DeclarePack},
+        Command{"feed", "the feed server: string, post", DeclareFeed},
+        Command{"rates", "currency rates: update, convert", DeclareRates},
+        Command{"news", "the news page: fetch, show", DeclareNews},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;

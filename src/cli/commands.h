@@ -20,6 +20,9 @@ void DeclareSkin(CLI::App& app, const SetAction& setAction);
 void DeclareLang(CLI::App& app, const SetAction& setAction);
 void DeclareTip(CLI::App& app, const SetAction& setAction);
 void DeclarePack(CLI::App& app, const SetAction& setAction);
+void DeclareFeed(CLI::App& app, const SetAction& setAction);
+void DeclareRates(CLI::App& app, const SetAction& setAction);
+void DeclareNews(CLI::App& app, const SetAction& setAction);
 void DeclareCredits(CLI::App& app, const SetAction& setAction);
 
 }  // namespace rlx::cli
