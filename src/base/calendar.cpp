@@ -72,7 +72,8 @@ int DayOfYear(const Date& date) {
 }
 
 std::int64_t SecondNumber(const DateTime& time) {
-    return DayNumber(time.date) * kSecondsADay + time.hour * 3600 + time.minute * 60 + time.second;
+    const int secondOfDay = time.hour * 3600 + time.minute * 60 + time.second;
+    return DayNumber(time.date) * kSecondsADay + secondOfDay;
 }
 
 DateTime DateTimeOfSecondNumber(std::int64_t second) {

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cstdio>
+#include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -158,6 +160,12 @@ int Run(int count, char** arguments) {
 }  // namespace rlx::cli
 
 int main(int count, char** words) {
-    rlx::cli::HoldStandardStreams();
-    return rlx::cli::Run(count, words);
+    // What is thrown here has no better place to be told: no memory, a file system that fails.
+    try {
+        rlx::cli::HoldStandardStreams();
+        return rlx::cli::Run(count, words);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "rlx: %s\n", error.what());
+        return rlx::cli::kFailed;
+    }
 }

@@ -11,6 +11,12 @@ namespace {
 
 constexpr const char* kDefaultSkinFile = "default.skn";
 
+std::filesystem::path FullPath(const std::filesystem::path& path) {
+    std::error_code error;
+    const auto full = std::filesystem::absolute(path, error);
+    return (error ? path : full).lexically_normal();
+}
+
 }  // namespace
 
 bool IsDefaultSkinSetting(std::u16string_view setting) {
@@ -22,6 +28,15 @@ std::filesystem::path SkinFileOfSetting(const std::filesystem::path& application
     std::string path = ToUtf8(setting.substr(0, setting.find(u'\0')));
     std::replace(path.begin(), path.end(), '\\', '/');
     return path;
+}
+
+std::optional<std::u16string> SettingOfSkinFile(const std::filesystem::path& applicationFolder,
+                                                const std::filesystem::path& file) {
+    const auto full = FullPath(file);
+    if (full == FullPath(applicationFolder / kDefaultSkinFile)) return std::u16string(kDefaultSkinSetting);
+    const std::string& path = full.native();
+    if (!IsUtf8(path) || path.find('\\') != std::string::npos) return std::nullopt;
+    return FromUtf8(path);
 }
 
 CSkinLoader::CSkinLoader(IFileSystem& files, std::filesystem::path applicationFolder, const ITexts& texts,

@@ -20,6 +20,11 @@ inline constexpr std::u16string_view kDefaultSkinSetting = u"default";
 /// itself, from the root of the file system, "\" standing for "/" too.
 std::filesystem::path SkinFileOfSetting(const std::filesystem::path& applicationFolder, std::u16string_view setting);
 
+/// The setting `skin` for a skin file: "default" for `applicationFolder`/default.skn, else the full path. Nothing for a
+/// path that the setting cannot name: one that is not UTF-8, or holds a backslash.
+std::optional<std::u16string> SettingOfSkinFile(const std::filesystem::path& applicationFolder,
+                                                const std::filesystem::path& file);
+
 /// True when a setting means the default skin.
 bool IsDefaultSkinSetting(std::u16string_view setting);
 

@@ -6,7 +6,7 @@ namespace rlx {
 
 namespace {
 
-constexpr int kBytesPerPixel = 4;
+constexpr qsizetype kBytesPerPixel = 4;
 
 const uchar* BytesOf(const CBitmap& bitmap) {
     return reinterpret_cast<const uchar*>(bitmap.Row(0));
