@@ -1,6 +1,5 @@
 #include "tools/packing/ui/packing_bar.h"
 
-#include <QHBoxLayout>
 #include <QPushButton>
 
 #include "uikit/qt_text.h"
@@ -14,17 +13,16 @@ constexpr int kButtonHeight = 28;
 }  // namespace
 
 CPackingBar::CPackingBar(const MenuTemplate& menu, const CCommandTable& commands, QAction* undo, QWidget* parent)
-    : QWidget(parent), m_undo(new QToolButton(this)) {
-    auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(4);
+    : QWidget(parent), m_layout(new QBoxLayout(QBoxLayout::LeftToRight, this)), m_undo(new QToolButton(this)) {
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(4);
     for (const MenuEntry& entry : menu) {
         if (entry.kind == MenuEntry::Kind::kPopup) AddMenuButton(entry, commands);
     }
     m_undo->setObjectName("undoDelete");
     m_undo->setDefaultAction(undo);
     m_undo->setMinimumSize(kButtonHeight, kButtonHeight);
-    layout->addWidget(m_undo);
+    m_layout->addWidget(m_undo);
 }
 
 void CPackingBar::AddMenuButton(const MenuEntry& entry, const CCommandTable& commands) {
@@ -33,7 +31,11 @@ void CPackingBar::AddMenuButton(const MenuEntry& entry, const CCommandTable& com
     auto* popup = new QMenu(button);
     FillMenu(*popup, entry.entries, commands);
     button->setMenu(popup);
-    layout()->addWidget(button);
+    m_layout->addWidget(button);
+}
+
+void CPackingBar::SetForm(Qt::Orientation form) {
+    m_layout->setDirection(form == Qt::Horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 void CPackingBar::SetUndo(bool possible, const QIcon& icon) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBoxLayout>
 #include <QToolButton>
 #include <QWidget>
 
@@ -15,11 +16,15 @@ class CPackingBar : public QWidget {
 public:
     CPackingBar(const MenuTemplate& menu, const CCommandTable& commands, QAction* undo, QWidget* parent);
 
+    /// A row, or a column with the first button on top.
+    void SetForm(Qt::Orientation form);
+
     void SetUndo(bool possible, const QIcon& icon);
 
 private:
     void AddMenuButton(const MenuEntry& entry, const CCommandTable& commands);
 
+    QBoxLayout* m_layout;
     QToolButton* m_undo;
 };
 

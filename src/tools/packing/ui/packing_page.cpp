@@ -1,8 +1,8 @@
 #include "tools/packing/ui/packing_page.h"
 
 #include <QApplication>
+#include <QHBoxLayout>
 #include <QScroller>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "base/number.h"
@@ -20,6 +20,8 @@ namespace {
 
 constexpr int kMargin = 6;
 constexpr int kGap = 4;
+constexpr int kLowScreen = 220;
+constexpr int kWidthForBoth = 260;  // of list and buttons beside it
 constexpr int kLongestItem = 32767;
 
 /// The first name of categories and of lists is content of the file, but shown in the language in force.
@@ -44,23 +46,43 @@ CPackingPage::CPackingPage(IFileSystem& files, const std::filesystem::path& fold
       m_view(new CPackingListView(this)),
       m_status(new CPackingStatus(ToQString(resources.Text(kTextEditItemHint)), this)),
       m_filters(new QActionGroup(this)),
-      m_undo(new QAction(ToQString(resources.Text(kTextUndo)), this)) {
+      m_undo(new QAction(ToQString(resources.Text(kTextUndo)), this)),
+      m_layout(new QGridLayout(this)) {
     setObjectName("packingPage");
     MakeSelectors();
     MakeList();
     MakeCommands();
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    layout->setSpacing(kGap);
+    LayOut();
+    connect(&m_look, &CLook::Changed, this, &CPackingPage::ApplyLook);
+    ApplyLook();
+}
+
+void CPackingPage::LayOut() {
+    m_layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    m_layout->setSpacing(kGap);
+    m_layout->setRowStretch(1, 1);
+    m_layout->setColumnStretch(0, 1);
     auto* selectors = new QHBoxLayout;
     selectors->addWidget(m_categories, 1);
     selectors->addWidget(m_lists, 1);
-    layout->addLayout(selectors);
-    layout->addWidget(m_view, 1);
-    layout->addWidget(m_status);
-    layout->addWidget(m_bar);
-    connect(&m_look, &CLook::Changed, this, &CPackingPage::ApplyLook);
-    ApplyLook();
+    m_layout->addLayout(selectors, 0, 0, 1, 2);
+    m_layout->addWidget(m_view, 1, 0, 1, 2);
+    m_layout->addWidget(m_status, 2, 0, 1, 2);
+    m_layout->addWidget(m_bar, 3, 0, 1, 2);
+}
+
+/// Where height is scarce the buttons stand beside the list.
+void CPackingPage::resizeEvent(QResizeEvent* /*event*/) {
+    const bool beside = width() >= kWidthForBoth && height() < kLowScreen;
+    m_layout->removeWidget(m_bar);
+    m_layout->removeWidget(m_view);
+    m_layout->addWidget(m_view, 1, 0, 1, beside ? 1 : 2);
+    m_bar->SetForm(beside ? Qt::Vertical : Qt::Horizontal);
+    if (beside) {
+        m_layout->addWidget(m_bar, 1, 1, Qt::AlignTop);
+    } else {
+        m_layout->addWidget(m_bar, 3, 0, 1, 2);
+    }
 }
 
 void CPackingPage::MakeSelectors() {

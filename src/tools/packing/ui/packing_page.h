@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QActionGroup>
+#include <QGridLayout>
 #include <QTimer>
 #include <filesystem>
 
@@ -37,7 +38,11 @@ public:
     bool MayLeave() override;
     void Refresh() override;
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void LayOut();
     void MakeSelectors();
     void MakeList();
     void MakeCommands();
@@ -72,6 +77,7 @@ private:
     QActionGroup* m_filters;
     QAction* m_undo;
     CPackingBar* m_bar = nullptr;
+    QGridLayout* m_layout;
 };
 
 }  // namespace rlx

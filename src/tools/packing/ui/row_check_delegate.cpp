@@ -8,6 +8,7 @@ namespace rlx {
 namespace {
 
 constexpr int kRowHeight = 30;
+constexpr int kPadding = 8;  // above and below the text together
 
 bool TurnsOver(const QEvent& event) {
     if (event.type() == QEvent::MouseButtonRelease)
@@ -20,7 +21,8 @@ bool TurnsOver(const QEvent& event) {
 }  // namespace
 
 QSize CRowCheckDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-    return QStyledItemDelegate::sizeHint(option, index).expandedTo({0, kRowHeight});
+    const QSize text = QStyledItemDelegate::sizeHint(option, index);
+    return {text.width(), qMax(text.height() + kPadding, kRowHeight)};
 }
 
 bool CRowCheckDelegate::editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& /*option*/,

@@ -16,13 +16,15 @@ namespace rlx {
 
 namespace {
 
-constexpr int kMargin = 6;
+constexpr int kMargin = 4;
+constexpr int kLowScreen = 200;
 constexpr int kCardRadius = 12;
 constexpr int kSmallestFont = 11;  // pixels
 constexpr int kLargestFont = 20;
 constexpr int kCharactersAcross = 21;  // of the font, wide; they decide its size
-constexpr int kLinesDown = 13;
+constexpr int kLinesDown = 16;
 constexpr int kWidthInCharacters = 24;  // of the card at most
+constexpr int kNarrow = 260;
 constexpr double kTotalScale = 1.4;
 constexpr int kFirstPeople = 2;
 
@@ -43,8 +45,7 @@ CTipPage::CTipPage(const ITexts& texts, IMessageBoxes& boxes, const CLook& look)
     MakeCard();
     m_bill->setObjectName("bill");
     m_bill->setText(ToQString(m_tip.BillText()));
-    m_grid->addWidget(m_bill, 0, 1, 1, CTipRateRow::kColumns - 1);
-    MakeLabel(kTextBillAmount, m_bill, 0);
+    AddRow(0, kTextBillAmount, m_bill);
     connect(m_bill, &QLineEdit::textEdited, this, [this](const QString& text) {
         m_tip.EditBill(FromQString(text));
         Show();
@@ -53,8 +54,7 @@ CTipPage::CTipPage(const ITexts& texts, IMessageBoxes& boxes, const CLook& look)
     MakeRate(TipRate::kSecond, "second", kTextTax, 3);
     m_total->setObjectName("total");
     m_total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_grid->addWidget(m_total, 5, 1, 1, CTipRateRow::kColumns - 1);
-    MakeLabel(kTextTotal, nullptr, 5);
+    AddRow(5, kTextTotal, m_total);
     MakeSplit(6);
     connect(&m_look, &CLook::Changed, this, &CTipPage::ApplyLook);
     ApplyLook();
@@ -82,15 +82,22 @@ void CTipPage::MakeCard() {
     m_card->setObjectName("tipCard");
     m_card->installEventFilter(this);
     m_grid->setColumnStretch(4, 1);
-    m_grid->setContentsMargins(8, 6, 8, 6);
+    m_grid->setContentsMargins(8, 4, 8, 4);
 }
 
-QLabel* CTipPage::MakeLabel(int textId, QWidget* buddy, int row) {
+/// A label and behind it a field, or several in a layout. It lies across the columns of the rates, which need theirs.
+void CTipPage::AddRow(int row, int textId, QWidget* field, QLayout* fields) {
+    auto* line = new QHBoxLayout;
     auto* label = new QLabel(ToQString(m_texts.Text(textId)), m_card);
-    label->setBuddy(buddy);
-    if (buddy != nullptr) buddy->setAccessibleName(label->text());
-    m_grid->addWidget(label, row, 0);
-    return label;
+    label->setBuddy(field);
+    if (qobject_cast<QLabel*>(field) == nullptr) field->setAccessibleName(label->text());
+    line->addWidget(label);
+    if (fields != nullptr) {
+        line->addLayout(fields, 1);
+    } else {
+        line->addWidget(field, 1);
+    }
+    m_grid->addLayout(line, row, 0, 1, CTipRateRow::kColumns);
 }
 
 void CTipPage::MakeRate(TipRate rate, const QString& name, int labelText, int row) {
@@ -120,12 +127,10 @@ void CTipPage::MakeSplit(int row) {
     steps->addWidget(m_fewer);
     steps->addWidget(m_people);
     steps->addWidget(m_more);
-    m_grid->addLayout(steps, row, 1, 1, CTipRateRow::kColumns - 1);
-    MakeLabel(kTextSplitBetween, m_people, row);
+    AddRow(row, kTextSplitBetween, m_people, steps);
     m_share->setObjectName("share");
     m_share->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_grid->addWidget(m_share, row + 1, 1, 1, CTipRateRow::kColumns - 1);
-    MakeLabel(kTextEachPays, nullptr, row + 1);
+    AddRow(row + 1, kTextEachPays, m_share);
 }
 
 QToolButton* CTipPage::MakeStep(const QString& name, int by) {
@@ -147,6 +152,7 @@ void CTipPage::ApplyLook() {
 
 void CTipPage::Entered() {
     m_bill->setFocus(Qt::OtherFocusReason);
+    m_bill->selectAll();
 }
 
 /// Text and touch targets grow with the screen, within reason.
@@ -163,13 +169,15 @@ void CTipPage::resizeEvent(QResizeEvent* /*event*/) {
     large.setPixelSize(static_cast<int>(size * kTotalScale));
     large.setBold(true);
     m_total->setFont(large);
-    const int touch = std::max(size * 2, 26);
+    const int touch = std::max(size * 2, height() < kLowScreen ? 24 : 28);
     const int digits = QFontMetrics(scaled).horizontalAdvance(QStringLiteral("100.00")) + size;
     for (auto* field : m_card->findChildren<CNumberField*>()) {
         field->setMinimumHeight(touch);
         if (field != m_bill) field->setFixedWidth(digits);
     }
     m_people->setFixedSize(digits, touch);
+    for (CTipRateRow* rate : m_rates)
+        rate->SetNarrow(width() < kNarrow);
     for (QToolButton* step : {m_fewer, m_more})
         step->setFixedSize(touch + size / 2, touch);
 }

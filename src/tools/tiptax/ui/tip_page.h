@@ -33,7 +33,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QLabel* MakeLabel(int textId, QWidget* buddy, int row);
+    void AddRow(int row, int textId, QWidget* field, QLayout* fields = nullptr);
     void MakeCard();
     void MakeRate(TipRate rate, const QString& name, int labelText, int row);
     void MakeSplit(int row);

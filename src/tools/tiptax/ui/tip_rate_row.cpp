@@ -7,6 +7,8 @@ namespace rlx {
 CTipRateRow::CTipRateRow(const QString& name, const QString& label, const ITexts& texts, QGridLayout& grid, int row,
                          QWidget* parent)
     : QObject(parent),
+      m_grid(grid),
+      m_row(row),
       m_rate(new CNumberField(parent)),
       m_added(new QCheckBox(ToQString(texts.Text(kTextAddToBill)), parent)),
       m_amount(new CFittedLabel(parent)),
@@ -20,15 +22,21 @@ CTipRateRow::CTipRateRow(const QString& name, const QString& label, const ITexts
     m_rate->setAccessibleName(label);
     m_added->setAccessibleName(label + " " + m_added->text());
     m_amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_included->setAlignment(Qt::AlignRight | Qt::AlignTop);
     grid.addWidget(caption, row, 0);
     grid.addWidget(m_rate, row, 1);
     grid.addWidget(new QLabel(ToQString(texts.Text(kTextPercent)), parent), row, 2);
     grid.addWidget(m_added, row, 3);
-    grid.addWidget(m_amount, row, 4);
-    grid.addWidget(m_included, row + 1, 2, 1, 3);
+    SetNarrow(false);
     connect(m_rate, &QLineEdit::textEdited, this, &CTipRateRow::RateEdited);
     connect(m_added, &QCheckBox::clicked, this, &CTipRateRow::AddedChanged);
+}
+
+void CTipRateRow::SetNarrow(bool narrow) {
+    m_grid.removeWidget(m_amount);
+    m_grid.removeWidget(m_included);
+    m_grid.addWidget(m_amount, narrow ? m_row + 1 : m_row, narrow ? 3 : 4, 1, narrow ? 2 : 1);
+    m_grid.addWidget(m_included, m_row + 1, narrow ? 0 : 1, 1, narrow ? 3 : 4);
+    m_included->setAlignment((narrow ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
 }
 
 void CTipRateRow::Show(const CTipCalculator& tip, TipRate rate) {

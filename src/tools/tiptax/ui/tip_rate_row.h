@@ -24,6 +24,9 @@ public:
 
     static constexpr int kColumns = 5;
 
+    /// In a narrow place the amount stands below the check box.
+    void SetNarrow(bool narrow);
+
     /// Shows what the calculator holds. Signals nothing.
     void Show(const CTipCalculator& tip, TipRate rate);
 
@@ -32,6 +35,8 @@ signals:
     void AddedChanged(bool added);
 
 private:
+    QGridLayout& m_grid;
+    int m_row;
     CNumberField* m_rate;
     QCheckBox* m_added;
     CFittedLabel* m_amount;
