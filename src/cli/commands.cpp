@@ -14,6 +14,10 @@ std::span<const Command> Commands() {
         Command{"lang", "languages and their texts", DeclareLang},
         Command{"tip", "tip and tax on a bill", DeclareTip},
         Command{"pack", "packing lists: show, add, tick, delete", DeclarePack},
+        Command{"convert", "convert a value between units", DeclareConvert},
+        Command{"units", "units of the converter: list, add, delete", DeclareUnits},
+        Command{"dial", "dialing and area codes", DeclareDial},
+        Command{"sizes", "clothing sizes of other countries", DeclareSizes},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;

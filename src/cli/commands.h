@@ -17,6 +17,10 @@ void DeclareSkin(CLI::App& app, const SetAction& setAction);
 void DeclareLang(CLI::App& app, const SetAction& setAction);
 void DeclareTip(CLI::App& app, const SetAction& setAction);
 void DeclarePack(CLI::App& app, const SetAction& setAction);
+void DeclareConvert(CLI::App& app, const SetAction& setAction);
+void DeclareUnits(CLI::App& app, const SetAction& setAction);
+void DeclareDial(CLI::App& app, const SetAction& setAction);
+void DeclareSizes(CLI::App& app, const SetAction& setAction);
 void DeclareCredits(CLI::App& app, const SetAction& setAction);
 
 }  // namespace rlx::cli

@@ -18,7 +18,7 @@ constexpr int kWidest = 720;
 constexpr int kWidthForOneLine = 460;  // selector and field beside each other
 constexpr int kLowPage = 190;          // the same where height is scarce
 constexpr int kControlHeight = 28;
-constexpr int kFieldWidth = 96;
+constexpr int kFieldWidth = 76;
 constexpr int kSmallFont = 11;  // pixels
 constexpr int kUsualFont = 13;
 constexpr int kWidthForUsualFont = 400;
@@ -134,8 +134,11 @@ void CDialingTool::Arrange() {
     m_layout->setSpacing(kMargin);
     m_layout->addWidget(m_selector, 0, 0, 1, oneLine ? 1 : 2);
     m_layout->addWidget(m_field, oneLine ? 0 : 1, oneLine ? 1 : 0, 1, oneLine ? 1 : 2);
+    const bool narrow = oneLine && width() < kWidthForOneLine;
+    m_field->setClearButtonEnabled(!narrow);
+    m_field->setMaximumWidth(narrow ? kFieldWidth : QWIDGETSIZE_MAX);
     m_layout->setColumnStretch(0, 1);
-    m_layout->setColumnStretch(1, oneLine && width() < kWidthForOneLine ? 0 : 1);
+    m_layout->setColumnStretch(1, narrow ? 0 : 1);
     for (QTreeView* list : m_lists)
         m_layout->addWidget(list, 2, 0, 1, 2);
     m_layout->setRowStretch(2, 1);
