@@ -121,7 +121,8 @@ void CDialingTool::Refresh() {
 
 void CDialingTool::SizeColumns(QTreeView* list) {
     const auto table = static_cast<const CDialingModel*>(list->model())->Table();
-    const int room = list->width() - 2 * list->frameWidth() - list->verticalScrollBar()->sizeHint().width();
+    // A list that is not seen has no width of its own yet.
+    const int room = Shown()->width() - 2 * list->frameWidth() - list->verticalScrollBar()->sizeHint().width();
     const auto widths = DialingColumnWidths(table, FontFactor(room));
     for (int column = 0; column < static_cast<int>(widths.size()); ++column)
         list->header()->resizeSection(column, std::max(0, widths[static_cast<std::size_t>(column)]));
