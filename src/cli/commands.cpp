@@ -20,6 +20,10 @@ std::span<const Command> Commands() {
         Command{"feed", "the feed server: string, post", DeclareFeed},
         Command{"rates", "currency rates: update, convert", DeclareRates},
         Command{"news", "the news page: fetch, show", DeclareNews},
+        Command{"convert", "convert a value between units", DeclareConvert},
+        Command{"units", "units of the converter: list, add, delete", DeclareUnits},
+        Command{"dial", "dialing and area codes", DeclareDial},
+        Command{"sizes", "clothing sizes of other countries", DeclareSizes},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;

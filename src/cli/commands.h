@@ -23,6 +23,10 @@ void DeclarePack(CLI::App& app, const SetAction& setAction);
 void DeclareFeed(CLI::App& app, const SetAction& setAction);
 void DeclareRates(CLI::App& app, const SetAction& setAction);
 void DeclareNews(CLI::App& app, const SetAction& setAction);
+void DeclareConvert(CLI::App& app, const SetAction& setAction);
+void DeclareUnits(CLI::App& app, const SetAction& setAction);
+void DeclareDial(CLI::App& app, const SetAction& setAction);
+void DeclareSizes(CLI::App& app, const SetAction& setAction);
 void DeclareCredits(CLI::App& app, const SetAction& setAction);
 
 }  // namespace rlx::cli

@@ -307,6 +307,7 @@ enum TextId : int {
     kTextPairOfUnits = 40714,
     kTextUnitSearchHint = 40715,
     kTextNoRecentPairs = 40716,
+    kTextNoSuchMeasure = 40717,
     kTextUnitNameEmpty = 40720,
     kTextUnitsNotEditable = 40721,
     kTextUnitsNotSaved = 40722,
@@ -349,6 +350,7 @@ enum TextId : int {
     kTextWomen = 40931,
     kTextChildren = 40932,
     kTextSizesGuideline = 40933,
+    kTextNoSuchGarment = 40934,
 
     // Packing list.
     kTextNewCategory = 41000,

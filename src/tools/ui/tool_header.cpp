@@ -64,9 +64,9 @@ void CToolHeader::ApplyLook() {
 void CToolHeader::Fit() {
     m_back->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     const int titleWidth = m_label->fontMetrics().horizontalAdvance(m_title);
-    if (m_back->sizeHint().width() + titleWidth + 3 * kGap > width())
+    if (m_back->sizeHint().width() + titleWidth + 2 * kGap > width())
         m_back->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    const int room = width() - m_back->sizeHint().width() - 3 * kGap;
+    const int room = width() - m_back->sizeHint().width() - 2 * kGap;
     m_label->setText(m_label->fontMetrics().elidedText(m_title, Qt::ElideRight, room));
 }
 

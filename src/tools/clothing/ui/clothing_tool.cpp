@@ -11,14 +11,16 @@ namespace rlx {
 namespace {
 
 constexpr int kMargin = 5;
+constexpr int kSmallGap = 3;
 constexpr int kPanelInset = 4;
 constexpr double kPanelRadius = 10;
 constexpr int kPanelOpacity = 208;  // of 255
 constexpr int kWidest = 720;
 constexpr int kControlHeight = 28;
+constexpr int kLowControlHeight = 24;
 constexpr int kSmallestTable = 68;
 constexpr int kLargestTable = 220;
-constexpr int kLowPage = 200;   // below it all choices share a line
+constexpr int kLowPage = 200;   // below it everything moves closer
 constexpr int kSmallFont = 11;  // pixels
 constexpr int kUsualFont = 14;
 constexpr int kSideForUsualFont = 400;
@@ -44,7 +46,6 @@ CClothingTool::CClothingTool(const ITexts& texts, const CLook& look) : m_texts(t
 void CClothingTool::MakeControls() {
     m_garment = new QComboBox(this);
     m_garment->setObjectName("garment");
-    m_garment->setMinimumHeight(kControlHeight);
     m_garment->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_garment->setAccessibleName(ToQString(m_texts.Text(kTextToolClothing)));
     for (std::size_t i = 0; i < kGarmentCount; ++i)
@@ -55,7 +56,6 @@ void CClothingTool::MakeControls() {
         auto* button = new QPushButton(ToQString(m_texts.Text(AudienceName(static_cast<Audience>(i)))), this);
         button->setObjectName(QLatin1String(kNames[i]));
         button->setCheckable(true);
-        button->setMinimumHeight(kControlHeight);
         button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         m_audience.addButton(button, static_cast<int>(i));
     }
@@ -77,10 +77,9 @@ void CClothingTool::LayOut() {
     for (QAbstractButton* button : m_audience.buttons())
         buttons->addWidget(button, 1);
     m_column->setSpacing(kMargin);
-    m_choices = new QBoxLayout(QBoxLayout::TopToBottom);
-    m_choices->setSpacing(kMargin);
-    m_choices->addWidget(m_garment, 2);
-    m_choices->addLayout(buttons, 3);
+    m_choices = new QVBoxLayout;
+    m_choices->addWidget(m_garment);
+    m_choices->addLayout(buttons);
     m_column->addLayout(m_choices);
     m_column->addWidget(m_title);
     m_column->addWidget(m_table, 1);
@@ -137,7 +136,13 @@ void CClothingTool::resizeEvent(QResizeEvent* /*event*/) {
     bold.setBold(true);
     m_title->setFont(bold);
     const int side = std::max(kMargin + kPanelInset, (width() - kWidest) / 2);
-    m_choices->setDirection(height() < kLowPage ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    const bool low = height() < kLowPage;
+    m_column->setSpacing(low ? kSmallGap : kMargin);
+    m_choices->setSpacing(low ? kSmallGap : kMargin);
+    const int controlHeight = low ? kLowControlHeight : kControlHeight;
+    m_garment->setFixedHeight(controlHeight);
+    for (QAbstractButton* button : m_audience.buttons())
+        button->setFixedHeight(controlHeight);
     m_column->setContentsMargins(side, kMargin, side, kMargin + kPanelInset);
 }
 

@@ -41,7 +41,7 @@ private:
     const CLook& m_look;
     CClothingPage m_page;
     QVBoxLayout* m_column = nullptr;
-    QBoxLayout* m_choices = nullptr;
+    QVBoxLayout* m_choices = nullptr;
     QComboBox* m_garment = nullptr;
     QButtonGroup m_audience;
     QLabel* m_title = nullptr;

@@ -61,7 +61,8 @@ void CUnitDialog::ShowUnits() {
     m_model.removeRows(0, m_model.rowCount());
     const std::u16string valueTitle = m_resources.Text(kTextUnitValue).append(ValueSuffix(Category()));
     m_model.setHorizontalHeaderLabels({ToQString(m_resources.Text(kTextUnitName)), ToQString(valueTitle)});
-    for (const Unit& unit : m_database.ReadTables()[Category()]) {
+    const UnitTables tables = m_database.ReadTables();
+    for (const Unit& unit : tables[Category()]) {
         QList<QStandardItem*> row;
         for (const std::u16string* text : {&unit.name, &unit.factor}) {
             row << new QStandardItem(ToQString(*text));

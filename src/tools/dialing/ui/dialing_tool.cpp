@@ -18,7 +18,7 @@ constexpr int kWidest = 720;
 constexpr int kWidthForOneLine = 460;  // selector and field beside each other
 constexpr int kLowPage = 190;          // the same where height is scarce
 constexpr int kControlHeight = 28;
-constexpr int kFieldWidth = 96;
+constexpr int kFieldWidth = 76;
 constexpr int kSmallFont = 11;  // pixels
 constexpr int kUsualFont = 13;
 constexpr int kWidthForUsualFont = 400;
@@ -121,7 +121,8 @@ void CDialingTool::Refresh() {
 
 void CDialingTool::SizeColumns(QTreeView* list) {
     const auto table = static_cast<const CDialingModel*>(list->model())->Table();
-    const int room = list->width() - 2 * list->frameWidth() - list->verticalScrollBar()->sizeHint().width();
+    // A list that is not seen has no width of its own yet.
+    const int room = Shown()->width() - 2 * list->frameWidth() - list->verticalScrollBar()->sizeHint().width();
     const auto widths = DialingColumnWidths(table, FontFactor(room));
     for (int column = 0; column < static_cast<int>(widths.size()); ++column)
         list->header()->resizeSection(column, std::max(0, widths[static_cast<std::size_t>(column)]));
@@ -134,8 +135,11 @@ void CDialingTool::Arrange() {
     m_layout->setSpacing(kMargin);
     m_layout->addWidget(m_selector, 0, 0, 1, oneLine ? 1 : 2);
     m_layout->addWidget(m_field, oneLine ? 0 : 1, oneLine ? 1 : 0, 1, oneLine ? 1 : 2);
+    const bool narrow = oneLine && width() < kWidthForOneLine;
+    m_field->setClearButtonEnabled(!narrow);
+    m_field->setMaximumWidth(narrow ? kFieldWidth : QWIDGETSIZE_MAX);
     m_layout->setColumnStretch(0, 1);
-    m_layout->setColumnStretch(1, oneLine && width() < kWidthForOneLine ? 0 : 1);
+    m_layout->setColumnStretch(1, narrow ? 0 : 1);
     for (QTreeView* list : m_lists)
         m_layout->addWidget(list, 2, 0, 1, 2);
     m_layout->setRowStretch(2, 1);
