@@ -81,7 +81,11 @@ void CApplication::MakeScreens() {
     m_window->AddScreen(m_clocksScreen);
     connect(m_clocksScreen, &CClocksScreen::CitiesChanged, m_window.get(), &CMainWindow::RefreshScreens);
     MakeMap();
+    m_feeds.emplace(CFeedWiring::Ports{m_files, m_store->Objects(), m_store->Registry(), m_boxes, m_clock, m_resources,
+                                       *m_folder, m_look, *m_window});
+    m_feeds->AddCurrencyScreen();
     MakeTools();
+    m_feeds->AddNewsScreen();
     connect(m_window.get(), &CMainWindow::ScreenShown, this, [this](int index) {
         m_settings->WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kCurrentTab,
                                static_cast<std::uint32_t>(index));
@@ -133,6 +137,10 @@ void CApplication::MakeCommands() {
         .Add(kCommandFullScreen, this,
              [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); })
         ->setShortcut(QKeySequence::FullScreen);
+    m_commands.Add(kCommandUpdateRates, this, [this] { m_feeds->UpdateRates(); });
+    m_commands.Add(kCommandFetchNews, this, [this] { m_feeds->FetchNews(); });
+    m_commands.Add(kCommandShowNews, this, [this] { m_feeds->ShowNews(); });
+    m_commands.Add(kCommandOwnerName, this, [this] { m_feeds->AskOwnerName(); });
     m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });
     m_commands.Add(kCommandAbout, this, [this] { ShowAbout(); });
     m_commands.Add(kCommandExit, this, [this] { m_window->close(); })->setShortcut(QKeySequence::Quit);

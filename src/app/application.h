@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "app/feed_wiring.h"
 #include "app/main_window.h"
 #include "app/silent_message_boxes.h"
 #include "base/calendar.h"
@@ -83,6 +84,7 @@ private:
     std::optional<CApplicationFolder> m_folder;
     std::optional<CCityDatabase> m_cities;
     CCommandTable m_commands;
+    std::optional<CFeedWiring> m_feeds;
     std::unique_ptr<CMainWindow> m_window;
     CClocksScreen* m_clocksScreen = nullptr;  ///< owned by the window
     CToolsScreen* m_toolsScreen = nullptr;    ///< owned by the window
