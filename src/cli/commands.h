@@ -12,6 +12,7 @@ std::span<const Command> Commands();
 void DeclareClocks(CLI::App& app, const SetAction& setAction);
 void DeclareCity(CLI::App& app, const SetAction& setAction);
 void DeclareTime(CLI::App& app, const SetAction& setAction);
+void DeclareWeather(CLI::App& app, const SetAction& setAction);
 void DeclareSettings(CLI::App& app, const SetAction& setAction);
 void DeclareLang(CLI::App& app, const SetAction& setAction);
 void DeclareCredits(CLI::App& app, const SetAction& setAction);
