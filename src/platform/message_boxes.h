@@ -24,6 +24,14 @@ public:
 
     /// `kOk` for a box with an OK button, else `kYes` or `kNo`; a box that is closed answers `kNo`.
     virtual BoxAnswer Show(const MessageBox& box) = 0;
+
+    /// As `Show`, with a check box of that text under the message; `checked` tells how it was left. Where there is no
+    /// way to show one it stays unchecked.
+    virtual BoxAnswer ShowWithCheck(const MessageBox& box, const std::u16string& checkText, bool& checked) {
+        static_cast<void>(checkText);
+        checked = false;
+        return Show(box);
+    }
 };
 
 }  // namespace rlx

@@ -40,6 +40,9 @@ inline constexpr std::u16string_view kNewsRead = u"newsread";      ///< 1: the f
 inline constexpr std::u16string_view kTodayCities = u"todaynbcs";  ///< number of clocks on the home screen
 inline constexpr std::u16string_view kTodayRates = u"todayscur";   ///< 1: rates on the home screen
 
+/// Text of `keys::kRoamlytix`: the `GuidText` of each connection that needs no confirmation, each followed by ";".
+inline constexpr std::u16string_view kAgreedConnections = u"connok";
+
 /// Values of `keys::kWorldClock`: `CityIndex` of the home city and the four others.
 inline constexpr std::u16string_view kHomeClock = u"clock";
 inline constexpr std::u16string_view kClocks[4] = {u"clock1", u"clock2", u"clock3", u"clock4"};
@@ -57,6 +60,8 @@ inline constexpr std::u16string_view kIconFolder = u"icondir";  ///< text: folde
 
 /// Values of `keys::kCurrencies`.
 inline constexpr std::u16string_view kPairs[3] = {u"curp", u"curp2", u"curp3"};
+inline constexpr std::u16string_view kRatesDate = u"ratesdate";    ///< text: day of the last update, "2026-09-29"
+inline constexpr std::u16string_view kRatesSource = u"ratesfrom";  ///< text: the host that it came from
 
 /// Values of `keys::kAlarms`, one of each for every reminder; all texts.
 inline constexpr std::u16string_view kAlarmTimes[5] = {u"clock", u"clock1", u"clock2", u"clock3", u"clock4"};

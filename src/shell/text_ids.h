@@ -399,6 +399,9 @@ enum TextId : int {
     kTextOwnerName = 41209,
     kTextDontAskForConnection = 41210,
     kTextFeedServerMissing = 41211,
+    kTextLoopbackNetwork = 41220,
+    kTextRatesNotSaved = 41221,
+    kTextNewsNotSaved = 41222,
 
     // Skins.
     kTextSkinNotFound = 41300,

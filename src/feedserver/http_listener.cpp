@@ -1,0 +1,213 @@
+#include "feedserver/http_listener.h"
+
+#include <arpa/inet.h>
+#include <microhttpd.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstring>
+#include <new>
+#include <utility>
+
+#include "feedserver/session_id.h"
+
+namespace rlx {
+
+namespace {
+
+/// What has come of one request so far.
+struct Incoming {
+    std::string body;
+    bool tooLarge = false;
+    std::chrono::steady_clock::time_point begun = std::chrono::steady_clock::now();
+};
+
+struct Outgoing {
+    unsigned status = 200;
+    std::string body;
+    std::vector<std::pair<std::string, std::string>> headers;
+    int code = 0;  ///< of the feed protocol, for the log
+};
+
+constexpr std::chrono::seconds kLongestUpload{30};
+
+MHD_Result Queue(MHD_Connection* connection, const Outgoing& out) {
+    MHD_Response* response = MHD_create_response_from_buffer(out.body.size(), const_cast<char*>(out.body.data()),
+                                                             MHD_RESPMEM_MUST_COPY);  // copied, never written
+    if (response == nullptr) return MHD_NO;
+    for (const auto& [name, value] : out.headers)
+        MHD_add_response_header(response, name.c_str(), value.c_str());
+    const MHD_Result result = MHD_queue_response(connection, out.status, response);
+    MHD_destroy_response(response);
+    return result;
+}
+
+std::string SessionOf(MHD_Connection* connection) {
+    const char* known = MHD_lookup_connection_value(connection, MHD_COOKIE_KIND, "JSESSIONID");
+    return known != nullptr && IsSessionId(known) ? known : NewSessionId();
+}
+
+Outgoing Plain(unsigned status, std::string body) {
+    return {status, std::move(body), {{"Content-Type", "text/plain; charset=utf-8"}}};
+}
+
+Outgoing Health(const Knowledge& knowledge) {
+    std::string body = "rates " + std::to_string(knowledge.rates.size());
+    if (knowledge.ratesDate) body += " of " + DayText(*knowledge.ratesDate) + " from " + knowledge.ratesSource;
+    body += "\nnews " + (knowledge.news ? knowledge.news->id : std::string("none")) + "\n";
+    return Plain(knowledge.rates.empty() ? 503 : 200, std::move(body));
+}
+
+Outgoing Feed(MHD_Connection* connection, const std::string& body, const Knowledge& knowledge) {
+    const FeedAnswer answer = AnswerQuestion(ParseFeedQuestion(body), knowledge);
+    Outgoing out{200, answer.body, {}, answer.code};
+    // Clients find these by their place: the header behind the code begins with a capital C.
+    out.headers = {{"sessionId", SessionOf(connection) + "."},
+                   {"ServerMSG", std::to_string(answer.code)},
+                   {"Content-Type", "text/html; charset=iso-8859-1"},
+                   {"newsid", answer.newsId},
+                   {"Cache-Control", "no-store"}};
+    return out;
+}
+
+std::string ClientOf(MHD_Connection* connection) {
+    const MHD_ConnectionInfo* info = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CLIENT_ADDRESS);
+    char text[INET6_ADDRSTRLEN] = "?";
+    if (info != nullptr && info->client_addr->sa_family == AF_INET)
+        inet_ntop(AF_INET, &reinterpret_cast<const sockaddr_in*>(info->client_addr)->sin_addr, text, sizeof text);
+    if (info != nullptr && info->client_addr->sa_family == AF_INET6)
+        inet_ntop(AF_INET6, &reinterpret_cast<const sockaddr_in6*>(info->client_addr)->sin6_addr, text, sizeof text);
+    return text;
+}
+
+/// A path as it may stand in a log: no control characters, not endless.
+std::string Printable(std::string_view text) {
+    std::string clean(text.substr(0, 80));
+    for (char& each : clean) {
+        if (each <= ' ' || each > '~') each = '?';
+    }
+    return clean;
+}
+
+bool SocketAddressOf(const ListenAddress& address, sockaddr_storage& storage) {
+    auto* four = reinterpret_cast<sockaddr_in*>(&storage);
+    auto* six = reinterpret_cast<sockaddr_in6*>(&storage);
+    if (inet_pton(AF_INET, address.host.c_str(), &four->sin_addr) == 1) {
+        four->sin_family = AF_INET;
+        four->sin_port = htons(address.port);
+        return true;
+    }
+    if (inet_pton(AF_INET6, address.host.c_str(), &six->sin6_addr) != 1) return false;
+    six->sin6_family = AF_INET6;
+    six->sin6_port = htons(address.port);
+    return true;
+}
+
+}  // namespace
+
+class CHttpListener::CService {
+public:
+    CService(const CKnowledgeBoard& board, ListenerLimits limits, Log log)
+        : m_board(board), m_limits(limits), m_log(std::move(log)) {}
+
+    ~CService() {
+        if (m_daemon != nullptr) MHD_stop_daemon(m_daemon);
+    }
+
+    CService(const CService&) = delete;
+    CService& operator=(const CService&) = delete;
+
+    bool Start(unsigned flags, const MHD_OptionItem& where) {
+        const MHD_OptionItem options[] = {
+            where,
+            {MHD_OPTION_CONNECTION_LIMIT, static_cast<intptr_t>(m_limits.connections), nullptr},
+            {MHD_OPTION_PER_IP_CONNECTION_LIMIT, static_cast<intptr_t>(m_limits.connectionsOfOne), nullptr},
+            {MHD_OPTION_CONNECTION_TIMEOUT, static_cast<intptr_t>(m_limits.idleSeconds), nullptr},
+            {MHD_OPTION_CONNECTION_MEMORY_LIMIT, static_cast<intptr_t>(m_limits.connectionBytes), nullptr},
+            {MHD_OPTION_END, 0, nullptr}};
+        m_daemon = MHD_start_daemon(flags | MHD_USE_AUTO_INTERNAL_THREAD, 0, nullptr, nullptr, &CService::OnRequest,
+                                    this, MHD_OPTION_NOTIFY_COMPLETED, &CService::OnCompleted, this, MHD_OPTION_ARRAY,
+                                    options, MHD_OPTION_END);
+        return m_daemon != nullptr;
+    }
+
+    std::uint16_t Port() const {
+        const MHD_DaemonInfo* info =
+            m_daemon == nullptr ? nullptr : MHD_get_daemon_info(m_daemon, MHD_DAEMON_INFO_BIND_PORT);
+        return info == nullptr ? std::uint16_t{0} : info->port;
+    }
+
+private:
+    static MHD_Result OnRequest(void* self, MHD_Connection* connection, const char* url, const char* method,
+                                const char*, const char* upload, std::size_t* uploadSize, void** state) {
+        auto& service = *static_cast<CService*>(self);
+        if (*state == nullptr) {
+            *state = new (std::nothrow) Incoming();
+            return *state == nullptr ? MHD_NO : MHD_YES;
+        }
+        auto& incoming = *static_cast<Incoming*>(*state);
+        if (*uploadSize == 0) return service.Answer(connection, url, method, incoming);
+        incoming.tooLarge = incoming.tooLarge || incoming.body.size() + *uploadSize > service.m_limits.bodyBytes;
+        if (!incoming.tooLarge) incoming.body.append(upload, *uploadSize);
+        *uploadSize = 0;
+        // A client that sends drop by drop, or without end, is left.
+        return std::chrono::steady_clock::now() - incoming.begun > kLongestUpload ? MHD_NO : MHD_YES;
+    }
+
+    static void OnCompleted(void*, MHD_Connection*, void** state, MHD_RequestTerminationCode) {
+        delete static_cast<Incoming*>(*state);
+        *state = nullptr;
+    }
+
+    MHD_Result Answer(MHD_Connection* connection, const char* url, const char* method, const Incoming& incoming) {
+        const Outgoing out = Route(connection, url, method, incoming);
+        const MHD_Result result = Queue(connection, out);
+        m_log(ClientOf(connection) + " " + Printable(method) + " " + Printable(url) + " " + std::to_string(out.status) +
+              " " + std::to_string(out.code) + " " + std::to_string(out.body.size()));
+        return result;
+    }
+
+    Outgoing Route(MHD_Connection* connection, std::string_view url, std::string_view method,
+                   const Incoming& incoming) {
+        const std::shared_ptr<const Knowledge> knowledge = m_board.Get();
+        if (url == "/health" && (method == "GET" || method == "HEAD")) return Health(*knowledge);
+        if (url != "/feed" && url != "/health") return Plain(404, "not here\n");
+        if (url != "/feed" || method != "POST") {
+            Outgoing out = Plain(405, "not so\n");
+            out.headers.emplace_back("Allow", url == "/feed" ? "POST" : "GET, HEAD");
+            return out;
+        }
+        if (incoming.tooLarge) return Plain(413, "too large\n");
+        return Feed(connection, incoming.body, *knowledge);
+    }
+
+    const CKnowledgeBoard& m_board;
+    ListenerLimits m_limits;
+    Log m_log;
+    MHD_Daemon* m_daemon = nullptr;
+};
+
+CHttpListener::CHttpListener(const CKnowledgeBoard& board, ListenerLimits limits, Log log)
+    : m_service(std::make_unique<CService>(board, limits, std::move(log))) {}
+
+CHttpListener::~CHttpListener() = default;
+
+std::string CHttpListener::Listen(const ListenAddress& address) {
+    sockaddr_storage storage{};
+    if (!SocketAddressOf(address, storage)) return address.host + " is no address of a machine";
+    const unsigned flags = storage.ss_family == AF_INET6 ? static_cast<unsigned>(MHD_USE_IPv6) : 0U;
+    if (m_service->Start(flags, {MHD_OPTION_SOCK_ADDR, 0, &storage})) return {};
+    return "cannot listen on " + address.host + " port " + std::to_string(address.port) + ": " + std::strerror(errno);
+}
+
+std::string CHttpListener::Serve(int socket) {
+    return m_service->Start(0, {MHD_OPTION_LISTEN_SOCKET, socket, nullptr}) ? "" : "the given socket cannot be served";
+}
+
+std::uint16_t CHttpListener::Port() const {
+    return m_service->Port();
+}
+
+}  // namespace rlx

@@ -1,0 +1,392 @@
+#include "feeds/feed_client.h"
+
+#include "feeds/feed_world.h"
+
+namespace rlx::test {
+namespace {
+
+constexpr char kNoServer[] = "Error!|!|Cannot connect to Server(%).\n\nFor more information: Please contact support.";
+
+std::string NoServer(const std::string& code) {
+    std::string text = kNoServer;
+    return text.replace(text.find('%'), 1, code);
+}
+
+struct Row {
+    const char* name;
+    std::vector<ScriptedReply> script;
+    FeedOutcome outcome;
+    std::string body;
+    std::vector<std::string> messages;
+    std::string session;
+    std::string newsId;
+    int newNews;
+    std::size_t requests = 1;
+};
+
+/// Session "old" and news "7" are stored before each row.
+std::vector<Row> Rows() {
+    using enum FeedOutcome;
+    const std::string later = "Please try again later.\n\nIf the problem persist please contact support.";
+    const std::string moved = "HTTP/1.1 302 Found\r\nLocation: ";
+    return {
+        {"the usual reply", {{FeedReplyBytes("EUR_1#")}}, kAnswered, "EUR_1#", {}, "S1", "7", 0},
+        {"other news are announced", {{FeedReplyBytes("x", "1005", "8")}}, kAnswered, "x", {}, "S1", "7", 1},
+        {"an empty body", {{FeedReplyBytes("")}}, kAnswered, "", {}, "S1", "7", 0},
+        {"invalid request",
+         {{FeedReplyBytes("b", "1001")}},
+         kAnswered,
+         "b",
+         {"Roamlytix|!|Invalid request(1001).\n\n" + later},
+         "S1",
+         "7",
+         0},
+        {"server error by code",
+         {{FeedReplyBytes("b", "1004")}},
+         kAnswered,
+         "b",
+         {"Roamlytix|!|Server error(1004).\n\n" + later},
+         "S1",
+         "7",
+         0},
+        {"server error by status",
+         {{FeedReplyBytes("b", "1005", "7", "S1", "500 Oh")}},
+         kAnswered,
+         "b",
+         {"Roamlytix|!|Server error(1005).\n\n" + later},
+         "S1",
+         "7",
+         0},
+        {"unknown city",
+         {{FeedReplyBytes("b", "1006")}},
+         kAnswered,
+         "b",
+         {"Roamlytix|!|Requested city not available(1006).\n\nPlease contact support."},
+         "S1",
+         "7",
+         0},
+        {"nothing newer",
+         {{FeedReplyBytes("b", "1007")}},
+         kAnswered,
+         "b",
+         {"Roamlytix|!|There are no Updates available(1007)."},
+         "S1",
+         "7",
+         0},
+        {"a code that nobody knows", {{FeedReplyBytes("b", "1002")}}, kNotUnderstood, "", {}, "S1", "7", 0},
+        {"another status with a good code",
+         {{FeedReplyBytes("b", "1005", "7", "S1", "404 Gone")}},
+         kAnswered,
+         "b",
+         {},
+         "S1",
+         "7",
+         0},
+        {"a page of somebody else",
+         {{"HTTP/1.1 200 OK\r\nContent-Type: text/html\r\n\r\n<html>"}},
+         kNotUnderstood,
+         "",
+         {},
+         "",
+         "7",
+         1},
+        {"the code not followed by a C",
+         {{"HTTP/1.1 200 OK\r\nsessionId: S1.\r\nnewsid: 7\r\nServerMSG: 1005\r\n\r\nb"}},
+         kNotUnderstood,
+         "",
+         {},
+         "S1",
+         "7",
+         0},
+        {"the session without its end",
+         {{"HTTP/1.1 200 OK\r\nServerMSG: 1005\r\nContent-Type: a\r\nnewsid: 7\r\n"
+           "sessionId: S1\r\n\r\nb"}},
+         kAnswered,
+         "b",
+         {},
+         "",
+         "7",
+         0},
+        {"an interim reply first",
+         {{"HTTP/1.1 100 Continue\r\nServerMSG: 1001\r\nC: x\r\n\r\n" + FeedReplyBytes("b")}},
+         kAnswered,
+         "b",
+         {},
+         "S1",
+         "7",
+         0},
+        {"access denied",
+         {{FeedReplyBytes("b", "1005", "9", "S2", "401 No")}},
+         kDenied,
+         "",
+         {"Error!|!|Access to the secured http site is denied!"},
+         "old",
+         "7",
+         -1},
+        {"moved to nowhere",
+         {{"HTTP/1.1 302 Found\r\nlocation: /x\r\n\r\n"}},
+         kFailed,
+         "",
+         {"Error!|!|Redirection with no new location"},
+         "old",
+         "7",
+         -1},
+        {"moved to another scheme",
+         {{moved + "https://127.0.0.1/\r\n\r\n"}},
+         kFailed,
+         "",
+         {"Error!|!|Error with redirected url"},
+         "old",
+         "7",
+         -1},
+        {"moved to a path alone",
+         {{moved + "/elsewhere\r\n\r\n"}},
+         kFailed,
+         "",
+         {"Error!|!|Error with redirected url"},
+         "old",
+         "7",
+         -1},
+        {"moved",
+         {{moved + "SELF/new\r\nA: b\r\n\r\n"}, {FeedReplyBytes("there")}},
+         kAnswered,
+         "there",
+         {},
+         "S1",
+         "7",
+         0,
+         2},
+        {"moved twice", {{moved + "SELF/a\r\n\r\n"}, {moved + "SELF/b\r\n\r\n"}}, kFailed, "", {}, "old", "7", -1, 2},
+        {"moved to an error",
+         {{moved + "SELF/a\r\n\r\n"}, {FeedReplyBytes("b", "1004", "7", "S1", "500 Oh")}},
+         kFailed,
+         "",
+         {},
+         "old",
+         "7",
+         -1,
+         2},
+        {"cut off in the body",
+         {{"HTTP/1.1 200 OK\r\nsessionId: S1.\r\nServerMSG: 1005\r\nContent-Length: 99\r\n"
+           "newsid: 7\r\n\r\nEUR_1#"}},
+         kFailed,
+         "",
+         {NoServer("12030")},
+         "S1",
+         "7",
+         0},
+        {"cut off in the headers",
+         {{"HTTP/1.1 200 OK\r\nsessionId: S1.\r\nServerM"}},
+         kFailed,
+         "",
+         {NoServer("12030")},
+         "old",
+         "7",
+         -1},
+        {"closed without a word", {{""}}, kFailed, "", {NoServer("12030")}, "old", "7", -1},
+        {"broken off", {{"", Ending::kReset}}, kFailed, "", {NoServer("12031")}, "old", "7", -1},
+        {"silence", {{"", Ending::kHold}}, kFailed, "", {NoServer("12002")}, "old", "7", -1},
+        {"silence in the body",
+         {{FeedReplyBytes("abc").substr(0, FeedReplyBytes("abc").size() - 1), Ending::kHold}},
+         kFailed,
+         "",
+         {NoServer("12002")},
+         "S1",
+         "7",
+         0},
+        {"no HTTP at all", {{std::string(300, '\x07')}}, kFailed, "", {NoServer("12152")}, "old", "7", -1},
+        {"endless headers",
+         {{"HTTP/1.1 200 OK\r\n" +
+           [] {
+               std::string lines;
+               for (int i = 0; i < 5000; ++i)
+                   lines += "X-Line: " + std::string(40, 'x') + "\r\n";
+               return lines;
+           }()}},
+         kFailed,
+         "",
+         {NoServer("12152")},
+         "old",
+         "7",
+         -1},
+    };
+}
+
+TEST(FeedClient, WhatTheUserSeesAndTheRegistryHolds) {
+    for (const Row& row : Rows()) {
+        SCOPED_TRACE(row.name);
+        FeedWorld world;
+        CScriptedServer server(row.script);
+        world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kSession, u"old");
+        world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, u"7");
+        const FeedReply reply = world.client.PostFeedRequest(server.Url(), u"did=a", false);
+        EXPECT_EQ(reply.outcome, row.outcome);
+        EXPECT_EQ(Narrow(reply.body), row.body);
+        EXPECT_EQ(world.Messages(), row.messages);
+        EXPECT_EQ(world.Text(names::kSession), row.session);
+        EXPECT_EQ(world.Text(names::kNewsId), row.newsId);
+        EXPECT_EQ(world.Flag(names::kNewNews), row.newNews);
+        EXPECT_EQ(server.Requests().size(), row.requests);
+        EXPECT_EQ(world.connections.held, 0);
+    }
+}
+
+TEST(FeedClient, SendsHeadersAndBodyInOrder) {
+    FeedWorld world;
+    CScriptedServer server({{FeedReplyBytes("a")}, {FeedReplyBytes("b", "1005", "7", "S2")}, {FeedReplyBytes("c")}});
+    world.connections.providerKeys.insert(u"Comm\\ConnMgr\\Providers\\{EF097F4C-DC4B-4c98-8FF6-AEF805DC0E8E}\\HTTP-{" +
+                                          GuidText(kNetworkInternet) + u"}");
+    for (int i = 0; i < 3; ++i)
+        world.client.PostFeedRequest(server.Url(u"/feed?x=1 2"), u"did=Zo\u00EB \u0416&jc=110", true);
+    const std::vector<std::string> requests = server.Requests();
+    ASSERT_EQ(requests.size(), 3U);
+    EXPECT_TRUE(requests[0].starts_with("POST /feed?x=1%202 HTTP/1.1\r\n")) << requests[0];
+    EXPECT_NE(requests[0].find("\r\nUser-Agent: Roamlytix\r\n"), std::string::npos);
+    EXPECT_TRUE(requests[0].ends_with("\r\n\r\ninet=My ISP:My ISP&did=Zo\xEB ?&jc=110")) << requests[0];
+    EXPECT_EQ(requests[0].find("Cookie"), std::string::npos);
+    EXPECT_NE(requests[1].find("Content-Type: application/x-www-form-urlencoded\r\nCookie: JSESSIONID=S1\r\n"),
+              std::string::npos);
+    EXPECT_NE(requests[2].find("\r\nCookie: JSESSIONID=S2\r\n"), std::string::npos);
+}
+
+TEST(FeedClient, SendsTheSameAgainAfterARedirect) {
+    FeedWorld world;
+    world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kSession, u"S0");
+    CScriptedServer server({{"HTTP/1.1 303 See\r\nLocation: SELF/new\r\n\r\n"}, {FeedReplyBytes("a")}});
+    world.client.PostFeedRequest(server.Url(), u"did=a", true);
+    const std::vector<std::string> requests = server.Requests();
+    ASSERT_EQ(requests.size(), 2U);
+    const auto afterFirstLine = [](const std::string& request) { return request.substr(request.find("\r\n")); };
+    EXPECT_TRUE(requests[1].starts_with("POST /new HTTP/1.1\r\n"));
+    EXPECT_EQ(afterFirstLine(requests[1]), afterFirstLine(requests[0]));
+}
+
+TEST(FeedClient, AServerCannotSlipHeadersIntoTheNextRequest) {
+    FeedWorld world;
+    CScriptedServer server(
+        {{FeedReplyBytes("a", "1005", "7", "S\r\nContent-Length: 0\r\nX: y")}, {FeedReplyBytes("b")}});
+    world.client.PostFeedRequest(server.Url(), u"did=a", true);
+    world.client.PostFeedRequest(server.Url(), u"did=a", true);
+    ASSERT_EQ(server.Requests().size(), 2U);
+    EXPECT_EQ(server.Requests()[1].find("Content-Length: 0"), std::string::npos) << server.Requests()[1];
+    EXPECT_TRUE(server.Requests()[1].ends_with("did=a"));
+}
+
+TEST(FeedClient, QuietStoresTheNewsIdentifierAndAsksNothing) {
+    FeedWorld world;
+    CScriptedServer server({{FeedReplyBytes("a", "1005", "abc 12")}, {FeedReplyBytes("a", "1005", "13")}});
+    world.client.PostFeedRequest(server.Url(), u"", true);
+    EXPECT_EQ(world.Text(names::kNewsId), "abc 12");
+    EXPECT_EQ(world.Flag(names::kNewNews), -1);
+    EXPECT_TRUE(world.boxes.shown.empty());
+    world.client.PostFeedRequest(server.Url(), u"", false);
+    EXPECT_EQ(world.Text(names::kNewsId), "abc 12");
+    EXPECT_EQ(world.Flag(names::kNewNews), 1);
+}
+
+TEST(FeedClient, WithoutAKnownIdentifierTheNewsCountAsZero) {
+    FeedWorld world;
+    CScriptedServer server({{FeedReplyBytes("a", "1005", "0")}});
+    world.client.PostFeedRequest(server.Url(), u"", false);
+    EXPECT_EQ(world.Text(names::kNewsId), "0");
+    EXPECT_EQ(world.Flag(names::kNewNews), 0);
+}
+
+TEST(FeedClient, CutsTheBodyAtTheLastLineThatFits) {
+    const auto lines = [](std::size_t count, std::size_t length) {
+        std::string body;
+        for (std::size_t i = 0; i < count; ++i)
+            body += std::string(length - 2, static_cast<char>('a' + i % 26)) + "\r\n";
+        return body;
+    };
+    const struct {
+        const char* name;
+        std::string body;
+        std::size_t kept;
+    } rows[] = {
+        {"just fits", std::string(255'998, 'x') + "\n", 255'999},
+        {"one more character", lines(255, 1000) + std::string(999, 'x') + "\n", 255'000},
+        {"short lines", lines(2561, 100), 255'900},
+        {"one endless line, dropped by pieces", std::string(300'000, 'x'), 249 * 1024},
+        {"much more than fits", lines(900, 1024), 249 * 1024},
+        {"zeros and high bytes are kept", std::string("a\0\xFF\r\n\n", 6), 6},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        FeedWorld world;
+        CScriptedServer server({{FeedReplyBytes(row.body)}});
+        const FeedReply reply = world.client.PostFeedRequest(server.Url(), u"", true);
+        EXPECT_EQ(reply.outcome, FeedOutcome::kAnswered);
+        EXPECT_EQ(Narrow(reply.body), row.body.substr(0, row.kept));
+    }
+}
+
+TEST(FeedClient, SaysWhenTheServerCannotBeReached) {
+    FeedWorld world;
+    const std::u16string url = CScriptedServer({}).Url();
+    EXPECT_EQ(world.client.PostFeedRequest(url, u"", true).outcome, FeedOutcome::kFailed);
+    for (const char16_t* bad : {u"", u"https://localhost/", u"localhost", u"http://:80/", u"http://a:0/",
+                                u"http://a b/", u"http://me@a/", u"http://a:65536/", u"http://[::g]/"})
+        EXPECT_EQ(world.client.PostFeedRequest(bad, u"", true).outcome, FeedOutcome::kFailed);
+    std::vector<std::string> expected(10, "Error!|!|Error with server url");
+    expected[0] = "Error!|!|Cannot update.\n\nPlease check your Internet connection.";
+    EXPECT_EQ(world.Messages(), expected);
+    EXPECT_TRUE(world.registry.List().empty());
+    EXPECT_EQ(world.connections.held, 0);
+}
+
+/// Fails with a code, or for want of memory.
+class CFailingHttp : public IHttpSession {
+public:
+    HttpFailure failure = kHttpNoFailure;
+    HttpAnswer Post(const HttpPost&, IHttpObserver*) override {
+        if (failure == kHttpNoFailure) throw std::bad_alloc();
+        return {nullptr, failure};
+    }
+};
+
+TEST(FeedClient, TellsFailuresByTheirCode) {
+    FeedWorld world;
+    CFailingHttp http;
+    CFeedClient client({http, world.connections, world.registry, world.boxes, world.texts});
+    for (const HttpFailure failure : {kHttpNoFailure, kHttpOutOfMemory, kHttpNameNotResolved, kHttpCannotConnect}) {
+        http.failure = failure;
+        EXPECT_EQ(client.PostFeedRequest(u"http://a/", u"", true).outcome, FeedOutcome::kFailed);
+    }
+    const std::string noMemory = "Error!|!|Not enough memory!";
+    EXPECT_EQ(world.Messages(),
+              (std::vector<std::string>{noMemory, noMemory, NoServer("12007"),
+                                        "Error!|!|Cannot update.\n\nPlease check your Internet connection."}));
+    EXPECT_EQ(world.connections.held, 0);
+}
+
+/// Ends the request when so many bytes of the body have come.
+class CStopAt : public IHttpObserver {
+public:
+    explicit CStopAt(std::size_t bytes) : m_bytes(bytes) {}
+    bool GoOn(const HttpProgress& progress) override { return progress.bodyBytesReceived < m_bytes; }
+
+private:
+    std::size_t m_bytes;
+};
+
+TEST(FeedClient, CancelLeavesEverythingAsItWas) {
+    const std::string reply = FeedReplyBytes(std::string(200, 'x'), "1005", "9");
+    for (const std::size_t stopAt : {std::size_t{0}, std::size_t{100}}) {
+        FeedWorld world;
+        world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, u"7");
+        CScriptedServer server({{reply.substr(0, reply.size() - 50), Ending::kHold}});
+        CStopAt observer(stopAt);
+        const FeedReply got = world.client.PostFeedRequest(server.Url(), u"", false, &observer);
+        EXPECT_EQ(got.outcome, FeedOutcome::kCancelled);
+        EXPECT_TRUE(got.body.empty());
+        EXPECT_TRUE(world.Messages().empty());
+        EXPECT_EQ(world.Text(names::kSession), "(none)");
+        EXPECT_EQ(world.Text(names::kNewsId), "7");
+        EXPECT_EQ(world.Flag(names::kNewNews), -1);
+        EXPECT_EQ(world.connections.held, 0);
+    }
+}
+
+}  // namespace
+}  // namespace rlx::test

@@ -1,0 +1,287 @@
+#include "base/byte_stream.h"
+#include "feeds/currency_database.h"
+#include "feeds/feed_world.h"
+#include "feeds/rates_list.h"
+#include "feeds/rates_reply.h"
+#include "feeds/rates_update.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/sqlite/device_store.h"
+#include "support/still_clock.h"
+#include "support/temp_folder.h"
+
+namespace rlx::test {
+namespace {
+
+const CurrencyList kList = {{u"USD", u"US Dollar", u"1"}, {u"EUR", u"Euro", u"0.9"}, {u"JPY", u"Yen", u"150"}};
+
+CurrencyList ListFrom(const std::string& bytes) {
+    CMemoryStream stream(bytes);
+    return ReadRatesList(stream);
+}
+
+TEST(RatesList, ReadsItsGrammar) {
+    const struct {
+        const char* name;
+        std::string bytes;
+        CurrencyList list;
+    } rows[] = {
+        {"three entries", "3\nUSD_US Dollar_1#EUR_Euro_0.9#JPY_Yen_150#", kList},
+        {"a carriage return behind the count", "3\r\nUSD_US Dollar_1#EUR_Euro_0.9#JPY_Yen_150#\n", kList},
+        {"more than the count", "1\nUSD_US Dollar_1#EUR_Euro_0.9#", {kList[0]}},
+        {"fewer than the count", "900000000\nUSD_US Dollar_1#\n", {kList[0]}},
+        {"a line break becomes part of the code",
+         "2\nUSD_US Dollar_1#\nEUR_Euro_0.9#",
+         {kList[0], {u"\nEUR", u"Euro", u"0.9"}}},
+        {"the last entry without its end", "2\nUSD_US Dollar_1#EUR_Euro_0.9", {kList[0], kList[1]}},
+        {"the last entry without a name", "2\nUSD_US Dollar_1#EUR", {kList[0]}},
+        {"no count", "USD_US Dollar_1#", {}},
+        {"a negative count", "-3\nUSD_US Dollar_1#", {}},
+        {"nothing", "", {}},
+        {"high bytes", "1\nX_\xE9_1#", {{u"X", u"\u00E9", u"1"}}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(ListFrom(row.bytes), row.list) << row.name;
+    std::string many = "2000000000\n";
+    for (int i = 0; i < 20'000; ++i)
+        many += "A_B_1#";
+    EXPECT_EQ(ListFrom(many).size(), kMaxListEntries);
+}
+
+TEST(RatesList, KnowsItsDate) {
+    CTempFolder folder;
+    CPosixFileSystem files;
+    EXPECT_EQ(ShippedRatesDate(files, folder.Path()), u"");
+    EXPECT_TRUE(LoadRatesList(files, folder.Path()).empty());
+    for (const auto& [bytes, date] :
+         std::vector<std::pair<std::string, std::u16string>>{{"2026-09-29\n", u"2026-09-29"},
+                                                             {"2026-02-30\n", u""},
+                                                             {"29/09/2026", u""},
+                                                             {std::string(99, '1'), u""}}) {
+        files.WriteFile(folder.Path() / "currs.date", bytes);
+        EXPECT_EQ(ShippedRatesDate(files, folder.Path()), date) << bytes;
+    }
+}
+
+TEST(RatesReply, TakesEntriesApart) {
+    CurrencyList twice = kList;
+    twice.push_back({u"EUR", u"Euro II", u"0.8"});
+    CurrencyList longList(188, {u"", u"filler", u"1"});
+    longList.push_back({u"AAA", u"the 189th", u"1"});
+    longList.push_back({u"BBB", u"the 190th", u"1"});
+    const struct {
+        const char* name;
+        const CurrencyList& list;
+        std::u16string reply;
+        std::vector<RateChange> changes;
+    } rows[] = {
+        {"two entries", kList, u"EUR_0.91#JPY_151#", {{u"Euro", u"EUR", u"0.91"}, {u"Yen", u"JPY", u"151"}}},
+        {"the second lacks its end", kList, u"EUR_0.91#JPY_151", {{u"Euro", u"EUR", u"0.91"}}},
+        {"no underscore at all", kList, u"<html># nothing", {}},
+        {"an unknown code between",
+         kList,
+         u"EUR_0.91#XYZ_5#JPY_151#",
+         {{u"Euro", u"EUR", u"0.91"}, {u"Yen", u"JPY", u"151"}}},
+        {"line breaks hide the code behind them", kList, u"EUR_0.91#\r\nJPY_151#", {{u"Euro", u"EUR", u"0.91"}}},
+        {"a rate is kept as it came",
+         kList,
+         u"EUR_n/a_ 1,5#USD_#",
+         {{u"Euro", u"EUR", u"n/a_ 1,5"}, {u"US Dollar", u"USD", u""}}},
+        {"an underscore swallows the next entry",
+         kList,
+         u"EUR_JPY_151#USD_2#",
+         {{u"Euro", u"EUR", u"JPY_151"}, {u"US Dollar", u"USD", u"2"}}},
+        {"a hash before the underscore stays in the code", kList, u"#EUR_0.91#JPY_7#", {{u"Yen", u"JPY", u"7"}}},
+        {"the last of two rates counts",
+         kList,
+         u"EUR_1#JPY_3#EUR_2#",
+         {{u"Euro", u"EUR", u"2"}, {u"Yen", u"JPY", u"3"}}},
+        {"a code that the list has twice", twice, u"EUR_2#", {{u"Euro II", u"EUR", u"2"}}},
+        {"the lookup ends at 189", longList, u"AAA_1#BBB_2#", {{u"the 189th", u"AAA", u"1"}}},
+        {"codes in small letters are others", kList, u"eur_1#", {}},
+        {"nothing", kList, u"", {}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(ParseRatesReply(row.reply, row.list), row.changes) << row.name;
+}
+
+/// A device with a currency database, at noon of 1 March 2026.
+struct RatesWorld : FeedWorld {
+    RatesWorld() {
+        clock.now = DateTime{{2026, 3, 1}, 12};
+        database.EnsureCreated(kList);
+    }
+
+    std::string Rates() {
+        std::string text;
+        for (const CurrencyEntry& entry : database.All())
+            text += ToUtf8(entry.code + u"=" + entry.rate + u" ");
+        return text;
+    }
+    RatesUpdateResult Update(CScriptedServer& server) {
+        return update.Update(database, server.Url(), u"did=a&jc=110", {{240, 268}, 200});
+    }
+
+    StillClock clock;
+    std::unique_ptr<CDeviceStore> store = OpenDeviceStoreInMemory(clock);
+    CCurrencyDatabase database{store->Objects()};
+    CRatesUpdate update{ports, store->Objects(), kList};
+};
+
+std::string CutOff(std::string bytes) {
+    bytes.pop_back();
+    return bytes;
+}
+
+TEST(CurrencyDatabase, IsBuiltOnceAndReadByName) {
+    RatesWorld world;
+    EXPECT_EQ(world.Rates(), "EUR=0.9 USD=1 JPY=150 ");
+    EXPECT_TRUE(world.database.WriteRate(u"Yen", u"JPY", u"151"));
+    EXPECT_FALSE(world.database.WriteRate(u"yen", u"JPY", u"152"));
+    CCurrencyDatabase again(world.store->Objects());
+    EXPECT_EQ(again.Count(), 0U);
+    EXPECT_TRUE(again.EnsureCreated({{u"GBP", u"Pound", u"1"}}));
+    EXPECT_EQ(again.Count(), 3U);
+    EXPECT_EQ(again.At(2), (CurrencyEntry{u"JPY", u"Yen", u"151"}));
+    EXPECT_FALSE(again.At(3));
+    const auto raw = world.store->Objects().Open(u"rlxCurrencies");
+    const std::optional<Record> record = raw->Read(*raw->SeekPosition(403, 0));
+    EXPECT_EQ(record, (Record{{402, u"Euro"}, {401, u"EUR"}, {403, u"0.9"}}));
+    EXPECT_TRUE(raw->SeekValue(401, u"JPY"));
+}
+
+TEST(CurrencyDatabase, AnEmptyOneIsBuiltWhenThereIsAList) {
+    StillClock clock;
+    const auto store = OpenDeviceStoreInMemory(clock);
+    CCurrencyDatabase database(store->Objects());
+    EXPECT_TRUE(database.EnsureCreated({}));
+    EXPECT_EQ(database.Count(), 0U);
+    EXPECT_TRUE(database.EnsureCreated(kList));
+    EXPECT_EQ(database.Count(), 3U);
+}
+
+TEST(RatesUpdate, StoresWhatTheReplyBrings) {
+    const struct {
+        const char* name;
+        ScriptedReply reply;
+        bool stored;
+        std::string rates;
+        std::vector<std::string> messages;
+    } rows[] = {
+        {"rates", {FeedReplyBytes("EUR_0.95#JPY_160#XYZ_1#")}, true, "EUR=0.95 USD=1 JPY=160 ", {}},
+        {"cut off", {FeedReplyBytes("EUR_0.95#JPY_16")}, true, "EUR=0.95 USD=1 JPY=150 ", {}},
+        {"an error page",
+         {FeedReplyBytes("<html>", "1004")},
+         true,
+         "EUR=0.9 USD=1 JPY=150 ",
+         {"Roamlytix|!|Server error(1004).\n\nPlease try again later.\n\nIf the problem persist please contact "
+          "support."}},
+        {"nothing", {FeedReplyBytes("")}, false, "EUR=0.9 USD=1 JPY=150 ", {"Error!|!|Syncronisation failed"}},
+        {"not understood",
+         {FeedReplyBytes("EUR_1#", "9999")},
+         false,
+         "EUR=0.9 USD=1 JPY=150 ",
+         {"Error!|!|Syncronisation failed"}},
+        {"broken off in the body",
+         {CutOff(FeedReplyBytes("EUR_0.95#JPY_160#"))},
+         false,
+         "EUR=0.9 USD=1 JPY=150 ",
+         {"Error!|!|Cannot connect to Server(12030).\n\nFor more information: Please contact support.",
+          "Error!|!|Syncronisation failed"}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        RatesWorld world;
+        CScriptedServer server({row.reply});
+        EXPECT_EQ(world.Update(server).stored, row.stored);
+        EXPECT_EQ(world.Rates(), row.rates);
+        EXPECT_EQ(world.Messages(), row.messages);
+    }
+}
+
+TEST(RatesUpdate, TheLabelChangesWithTheDay) {
+    RatesWorld world;
+    CScriptedServer server({{FeedReplyBytes("EUR_1#")}, {FeedReplyBytes("EUR_2#")}, {FeedReplyBytes("XYZ_1#")}});
+    EXPECT_EQ(world.Update(server).label, std::nullopt);
+    EXPECT_EQ(world.Rates(), "EUR=1 USD=1 JPY=150 ");
+    world.clock.now = DateTime{{2026, 3, 2}, 0};
+    EXPECT_EQ(world.Update(server).label, u"Last update\n 2/3/2026 ");
+    world.clock.now = DateTime{{2026, 3, 3}, 0};
+    const RatesUpdateResult third = world.Update(server);
+    EXPECT_EQ(third.label, std::nullopt);
+    EXPECT_EQ(third.rates, 0U);
+    EXPECT_EQ(world.settings.ReadString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesDate),
+              u"2026-03-02");
+    EXPECT_EQ(world.settings.ReadString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesSource),
+              u"127.0.0.1");
+}
+
+TEST(RatesUpdate, TheLabelFitsTheScreen) {
+    const CFeedTexts texts;
+    const Date date{2026, 12, 31};
+    EXPECT_EQ(RatesUpdateLabel(texts, {{240, 241}, 0}, date), u"Last update\n 31/12/2026 ");
+    EXPECT_EQ(RatesUpdateLabel(texts, {{240, 240}, 244}, date), u"Upd. 31/12/2026 ");
+    EXPECT_EQ(RatesUpdateLabel(texts, {{320, 240}, 245}, date), u"Last update\n 31/12/2026 ");
+}
+
+/// Refuses the second write of a transaction.
+class CRefusingDatabase : public IRecordDatabase {
+public:
+    CRefusingDatabase(std::unique_ptr<IRecordDatabase> inner, int& writesLeft)
+        : m_inner(std::move(inner)), m_writesLeft(writesLeft) {}
+    std::size_t Count() override { return m_inner->Count(); }
+    std::optional<RecordId> SeekPosition(PropertyId id, std::size_t at) override {
+        return m_inner->SeekPosition(id, at);
+    }
+    std::optional<RecordId> SeekValue(PropertyId id, std::u16string_view v) override {
+        return m_inner->SeekValue(id, v);
+    }
+    std::optional<std::size_t> PositionOf(PropertyId id, RecordId record) override {
+        return m_inner->PositionOf(id, record);
+    }
+    std::optional<Record> Read(RecordId record) override { return m_inner->Read(record); }
+    std::optional<RecordId> Add(const Record& record) override {
+        return m_writesLeft-- > 0 ? m_inner->Add(record) : std::nullopt;
+    }
+    bool Overwrite(RecordId record, const Record& properties) override {
+        return m_writesLeft-- > 0 && m_inner->Overwrite(record, properties);
+    }
+    bool Delete(RecordId record) override { return m_inner->Delete(record); }
+    std::optional<std::int64_t> LastModified() override { return m_inner->LastModified(); }
+
+private:
+    std::unique_ptr<IRecordDatabase> m_inner;
+    int& m_writesLeft;
+};
+
+class CRefusingStore : public IObjectStore {
+public:
+    CRefusingStore(IObjectStore& inner, int writesLeft) : m_inner(inner), m_writesLeft(writesLeft) {}
+    bool Create(std::u16string_view name, std::uint32_t type, const std::vector<PropertyId>& orders) override {
+        return m_inner.Create(name, type, orders);
+    }
+    std::unique_ptr<IRecordDatabase> Open(std::u16string_view name) override {
+        auto inner = m_inner.Open(name);
+        return inner ? std::make_unique<CRefusingDatabase>(std::move(inner), m_writesLeft) : nullptr;
+    }
+    bool Remove(std::u16string_view name) override { return m_inner.Remove(name); }
+    bool Transact(const std::function<bool()>& work) override { return m_inner.Transact(work); }
+
+private:
+    IObjectStore& m_inner;
+    int m_writesLeft;
+};
+
+TEST(RatesUpdate, AFullDeviceKeepsTheOldRates) {
+    RatesWorld world;
+    CRefusingStore refusing(world.store->Objects(), 1);
+    CCurrencyDatabase database(refusing);
+    ASSERT_TRUE(database.EnsureCreated(kList));
+    CRatesUpdate update(world.ports, refusing, kList);
+    CScriptedServer server({{FeedReplyBytes("EUR_2#JPY_3#")}});
+    EXPECT_FALSE(update.Update(database, server.Url(), u"", {}).stored);
+    EXPECT_EQ(world.Rates(), "EUR=0.9 USD=1 JPY=150 ");
+    EXPECT_EQ(world.Messages(), (std::vector<std::string>{"Error!|!|The rates could not be stored."}));
+}
+
+}  // namespace
+}  // namespace rlx::test
