@@ -73,10 +73,27 @@ void CApplication::MakeScreens() {
     m_clocksScreen = new CClocksScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, choose);
     m_window->AddScreen(m_clocksScreen);
     connect(m_clocksScreen, &CClocksScreen::CitiesChanged, m_window.get(), &CMainWindow::RefreshScreens);
+    MakeWeather();
     connect(m_window.get(), &CMainWindow::ScreenShown, this, [this](int index) {
         m_settings->WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kCurrentTab,
                                static_cast<std::uint32_t>(index));
     });
+}
+
+void CApplication::MakeWeather() {
+    const auto list = m_folder->Path(u"\\cities.wet").value_or(m_folder->Root() / "cities.wet");
+    m_weather.emplace(m_store->Objects(), m_files, list);
+    m_feeds.emplace(m_files, m_folder->Root(), m_store->Registry(), m_boxes, m_resources);
+    const CityChooser choose = [this](QWidget* parent, const QString& title, CityIndex current) {
+        return ChooseCity(parent, title, current);
+    };
+    const WeatherRequest request = [this](const std::u16string& feedName, const QSize& screen,
+                                          const std::function<bool()>& goOn) {
+        return m_feeds->Weather(feedName, screen, goOn);
+    };
+    m_weatherScreen = new CWeatherScreen({*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, m_files,
+                                          *m_weather, m_folder->Root(), choose, request});
+    m_window->AddScreen(m_weatherScreen);
 }
 
 void CApplication::MakeCommands() {
@@ -84,6 +101,9 @@ void CApplication::MakeCommands() {
     m_commands.Add(kCommandTwelveHour, this, [this] { ToggleSetting(keys::kRoamlytix, names::kTwelveHour); })
         ->setCheckable(true);
     m_commands.Add(kCommandDeviceTimeZone, this, [this] { ToggleSetting(keys::kWorldClock, names::kSyncZone); })
+        ->setCheckable(true);
+    m_commands.Add(kCommandUpdateWeather, this, [this] { m_weatherScreen->Update(); });
+    m_commands.Add(kCommandFahrenheit, this, [this] { ToggleSetting(keys::kRoamlytix, names::kFahrenheit); })
         ->setCheckable(true);
     m_commands
         .Add(kCommandFullScreen, this,
@@ -101,6 +121,8 @@ void CApplication::MakeCommands() {
 void CApplication::UpdateChecks() {
     const bool twelve = m_settings->ReadDwordOr(keys::kRoamlytix, names::kTwelveHour, 0) == 1;
     m_commands.Find(kCommandTwelveHour)->setChecked(twelve);
+    const bool fahrenheit = m_settings->ReadDwordOr(keys::kRoamlytix, names::kFahrenheit, 0) == 1;
+    m_commands.Find(kCommandFahrenheit)->setChecked(fahrenheit);
     m_commands.Find(kCommandDeviceTimeZone)->setChecked(LoadClockSettings(*m_settings).syncZone != 0);
 }
 

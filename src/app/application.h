@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "app/feed_line.h"
 #include "app/main_window.h"
 #include "app/silent_message_boxes.h"
 #include "base/calendar.h"
@@ -21,6 +22,7 @@
 #include "uikit/look.h"
 #include "uikit/qt_message_boxes.h"
 #include "uikit/template_menu.h"
+#include "weather/ui/weather_screen.h"
 
 namespace rlx {
 
@@ -51,6 +53,7 @@ private:
     void OpenStore();
     void OpenFolder();
     void MakeScreens();
+    void MakeWeather();
     void MakeCommands();
     void RestoreScreen();
     void LoadSkin();
@@ -76,9 +79,12 @@ private:
     std::optional<CRegistryStore> m_settings;
     std::optional<CApplicationFolder> m_folder;
     std::optional<CCityDatabase> m_cities;
+    std::optional<CWeatherStore> m_weather;
+    std::optional<CFeedLine> m_feeds;
     CCommandTable m_commands;
     std::unique_ptr<CMainWindow> m_window;
-    CClocksScreen* m_clocksScreen = nullptr;  ///< owned by the window
+    CClocksScreen* m_clocksScreen = nullptr;    ///< owned by the window
+    CWeatherScreen* m_weatherScreen = nullptr;  ///< owned by the window
 };
 
 }  // namespace rlx

@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "cli/commands.h"
+#include "cli/weather_fetch.h"
 #include "weather/feed_fields.h"
 #include "weather/place_forecast.h"
 #include "weather/weather_code.h"
@@ -116,6 +117,22 @@ int Show(CSession& session, CAnswer& answer, const std::string& word) {
     return kDone;
 }
 
+int Update(CSession& session, CAnswer& answer, const std::string& word) {
+    auto cities = Chosen(session, word);
+    if (!cities) return kFailed;
+    std::erase_if(*cities, [&](CityIndex city) { return city >= session.Cities().Count(); });
+    Weather weather(session);
+    const auto state = weather.store.EnsureCreated();
+    if (state == WeatherStoreState::kRefused) return session.Fail(session.Text(kTextFileNotSaved, kWeatherDatabase));
+    if (state == WeatherStoreState::kListMissing) session.Fail(session.Text(kTextWeatherListMissing));
+    const auto results = FetchWeather(session, weather.store, weather.forecasts, *cities);
+    Answer(session, weather, *cities, answer);
+    const auto isGood = [](PlaceUpdate result) {
+        return result == PlaceUpdate::kSaved || result == PlaceUpdate::kOlder;
+    };
+    return std::ranges::all_of(results, isGood) ? kDone : kFailed;
+}
+
 }  // namespace
 
 void DeclareWeather(CLI::App& app, const SetAction& setAction) {
@@ -125,6 +142,9 @@ void DeclareWeather(CLI::App& app, const SetAction& setAction) {
         if (!app.get_subcommands().empty()) return;
         setAction([word](CSession& s, CAnswer& a) { return Show(s, a, *word); });
     });
+    CLI::App* update = DeclareSub(app, "update", "fetch new forecasts from the feed server", setAction,
+                                  [word](CSession& s, CAnswer& a) { return Update(s, a, *word); });
+    update->add_option("CITY", *word, "index or beginning of a name");
 }
 
 }  // namespace rlx::cli
