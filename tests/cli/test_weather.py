@@ -7,7 +7,7 @@ import unittest
 
 from rlx_program import RlxTest
 
-CITIES = ("2\n;Amsterdam;Netherlands;4.9;52.4;1;1;88;2;298;3\n"
+CITIES = ("2\nz;Amsterdam;Netherlands;4.9;52.4;1;1;88;2;298;3\n"
           "z;Tokyo;Japan;139.7;35.7;9;0;0;0;0;0\n")
 NOW = "2026-11-22T21:10:05"
 REPLY = ("weather_1#\nplace_amsterdam_nl#\nsource_Open-Meteo#\nissued_2026-11-22T18:00Z#\n"
@@ -46,8 +46,9 @@ class Weather(RlxTest):
         self.addCleanup(self.server.shutdown)
         (self.home / "adrs.cfg").write_text(f"http://127.0.0.1:{self.server.server_port}/feed*")
 
-    def weather(self, *words, now=NOW, **expected):
-        return self.answer("--yes", "weather", *words, now=now, **expected)["places"]
+    def weather(self, *words, now=NOW, messages=(), **expected):
+        asked = ["The connection <Loopback: Loopback> will be used."] if "update" in words else []
+        return self.answer("--yes", "weather", *words, now=now, messages=asked + list(messages), **expected)["places"]
 
     def test_forecast_is_fetched_and_kept(self):
         self.assertEqual(self.weather("tok"), [NO_NEWS])

@@ -63,17 +63,24 @@ void CDayDetails::PaintHead(QPainter& painter, const QRectF& room) const {
                 {28});
 }
 
+double CDayDetails::WidthOf(const QString& text) const {
+    QFont smallest = font();
+    smallest.setPixelSize(static_cast<int>(FontRange{0}.smallest));
+    smallest.setBold(true);
+    return QFontMetricsF(smallest).horizontalAdvance(text) + 1;
+}
+
 void CDayDetails::PaintRows(QPainter& painter, const QRectF& room) const {
     const double height = std::min(room.height() / static_cast<double>(m_rows.size()), 46.0);
     const FontRange size{std::clamp(height * 0.62, 9.0, 24.0)};
     double top = room.top() + (room.height() - height * static_cast<double>(m_rows.size())) / 2;
     for (const auto& [label, value] : m_rows) {
         const QRectF line(room.left(), top, room.width(), height);
+        const double right = std::min(line.width() * 0.6, std::max(line.width() * 0.4, WidthOf(value)));
         painter.setPen(m_look.Colour(SkinKey::kWeatherSATC));
-        PaintFitted(painter, line.adjusted(0, 0, -line.width() * 0.48, 0), Qt::AlignLeft | Qt::AlignVCenter, label,
-                    size);
+        PaintFitted(painter, line.adjusted(0, 0, -right - 3, 0), Qt::AlignLeft | Qt::AlignVCenter, label, size);
         painter.setPen(m_look.Colour(SkinKey::kWeatherCBTC));
-        PaintFitted(painter, line.adjusted(line.width() * 0.53, 0, 0, 0), Qt::AlignRight | Qt::AlignVCenter, value,
+        PaintFitted(painter, line.adjusted(line.width() - right, 0, 0, 0), Qt::AlignRight | Qt::AlignVCenter, value,
                     size, true);
         top += height;
     }

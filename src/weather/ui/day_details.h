@@ -29,6 +29,7 @@ private:
     };
 
     void PaintHead(QPainter& painter, const QRectF& room) const;
+    double WidthOf(const QString& text) const;  ///< of a value, at the smallest size
     void PaintRows(QPainter& painter, const QRectF& room) const;
 
     const ITexts& m_texts;

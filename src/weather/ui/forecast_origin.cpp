@@ -33,7 +33,7 @@ void CForecastOrigin::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(font);
     double left = 0;
     for (const QString& mark : m_marks) {
-        const QRectF chip(left, 1, painter.fontMetrics().horizontalAdvance(mark) + size, line - 2);
+        const QRectF chip(left, height() - line + 1, painter.fontMetrics().horizontalAdvance(mark) + size, line - 2);
         painter.setPen(Qt::NoPen);
         painter.setBrush(m_look.Accent());
         painter.drawRoundedRect(chip, line / 4, line / 4);
@@ -43,8 +43,8 @@ void CForecastOrigin::paintEvent(QPaintEvent* /*event*/) {
     }
     painter.setPen(m_look.Colour(SkinKey::kWeatherSATC));
     if (m_twoLines) {
-        PaintFitted(painter, {left, 0, width() - left, line}, Qt::AlignVCenter, m_issued, {size});
-        PaintFitted(painter, {0, line, static_cast<double>(width()), line}, Qt::AlignVCenter, m_source, {size});
+        PaintFitted(painter, {0, 0, static_cast<double>(width()), line}, Qt::AlignVCenter, m_issued, {size});
+        PaintFitted(painter, {left, line, width() - left, line}, Qt::AlignVCenter, m_source, {size});
     } else {
         PaintFitted(painter, {left, 0, width() - left, line}, Qt::AlignVCenter,
                     m_issued.isEmpty() ? m_source : m_issued + QStringLiteral(", ") + m_source, {size});

@@ -6,7 +6,7 @@
 
 namespace rlx {
 
-/// Where a forecast comes from and when it was made, behind marks that warn of it, in one line or two. Its accessible
+/// Where a forecast comes from and when it was made, with marks that warn of it, in one line or two. Its accessible
 /// description holds the same words. The look must outlive it.
 class CForecastOrigin : public QWidget {
     Q_OBJECT

@@ -39,7 +39,7 @@ void CLinkButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setBrush(ground);
     painter.setPen(hasFocus() ? QPen(m_look.Accent(), 2) : QPen(Qt::NoPen));
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
-    QRectF room = QRectF(rect()).adjusted(3, 2, -3, -3);
+    QRectF room = QRectF(rect()).adjusted(1, 2, -1, -3);
     if (!m_icon.isEmpty()) {
         const int size = static_cast<int>(std::min({room.width(), room.height() * 0.72, 26.0}));
         QPixmap icon = TintedPixmap(m_icon, colour, size, devicePixelRatioF());

@@ -8,7 +8,8 @@ namespace {
 
 constexpr int kHeadingFrom = 420;  // pixels of height
 constexpr int kOneBarFrom = 260;   // pixels of width, when lying
-constexpr int kOneOriginLineFrom = 460;
+constexpr int kOneOriginLineFrom = 560;
+constexpr int kColumnsFrom = 300;  // pixels of width: five dates beside each other
 
 QRect TakeTop(QRect& rest, int height) {
     const QRect top(rest.left(), rest.top(), rest.width(), height);
@@ -51,7 +52,7 @@ WeatherLayout LayOutWeather(const QRect& area) {
     QRect places = TakeTop(rest, bar);
     QRect links = places;
     if (oneBar) {
-        links = TakeRight(places, bar * 3 + gap);
+        links = TakeRight(places, bar * 2);
     } else {
         links = TakeTop(rest, heading ? bar * 5 / 4 : bar);
     }
@@ -60,8 +61,8 @@ WeatherLayout LayOutWeather(const QRect& area) {
     if (heading) {
         layout.view = TakeRight(links, std::min(bar * 4, links.width() * 2 / 5));
         layout.heading = links;
-    } else {
-        layout.view = oneBar ? TakeRight(links, bar) : links;
+    } else if (!oneBar) {
+        layout.view = links;
     }
     for (int i = 0; i < 4; ++i)
         layout.places[static_cast<std::size_t>(i)] = Cell(places, i, 4, gap);
@@ -77,7 +78,7 @@ WeatherLayout LayOutWeather(const QRect& area) {
 std::vector<QRect> LayOutDays(const QRect& body, std::size_t count) {
     std::vector<QRect> days;
     const int gap = GapOf(body);
-    const bool columns = body.width() > body.height();
+    const bool columns = body.width() > body.height() && body.width() >= kColumnsFrom;
     const int cells = static_cast<int>(std::max<std::size_t>(count, 5));
     for (int i = 0; i < static_cast<int>(count); ++i)
         days.push_back(columns ? Cell(body, i, cells, gap) : CellBelow(body, i, cells, gap));
@@ -96,7 +97,7 @@ DetailLayout LayOutDetail(const QRect& body) {
     rest.adjust(0, gap, 0, 0);
     const bool beside = rest.width() > rest.height() * 1.1;
     if (beside) {
-        layout.chart = TakeRight(rest, rest.width() * 42 / 100);
+        layout.chart = TakeRight(rest, rest.width() * (rest.width() < kColumnsFrom ? 36 : 42) / 100);
         layout.details = rest.adjusted(0, 0, -gap, 0);
     } else {
         layout.details = TakeTop(rest, rest.height() * 62 / 100);

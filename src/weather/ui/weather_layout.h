@@ -9,7 +9,7 @@ namespace rlx {
 /// Where the parts of the Weather screen stand.
 struct WeatherLayout {
     std::array<QRect, 4> places;  ///< the buttons of the four places
-    QRect view;                   ///< button between overview and day by day
+    QRect view;                   ///< button between overview and day by day; empty where there is no room
     QRect unit;                   ///< button between °C and °F
     QRect update;
     QRect heading;  ///< name of the city; empty where there is no room

@@ -223,11 +223,7 @@ void CWeatherScreen::Arrange() {
     m_unitLink->setGeometry(layout.unit);
     m_update->setGeometry(layout.update);
     m_view->setGeometry(layout.view);
-    // A word does not fit onto a square button.
-    const bool small = layout.view.width() < layout.view.height() * 2;
-    m_view->SetIcon(small ? (m_dayByDay ? QStringLiteral("back") : QStringLiteral("search")) : QString());
-    m_view->setText(small ? QString() : ToQString(m_ports.resources.Text(m_dayByDay ? kTextOverview : kTextDayByDay)));
-    m_view->setVisible(days > 0);
+    m_view->setVisible(days > 0 && !layout.view.isEmpty());
     m_heading->setGeometry(layout.heading);
     m_heading->setVisible(!layout.heading.isEmpty());
     m_origin->setGeometry(layout.origin);

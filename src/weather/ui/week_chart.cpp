@@ -34,6 +34,13 @@ void CWeekChart::Show(const WeekPicture& picture, std::size_t chosen) {
     update();
 }
 
+double CWeekChart::WidthOf(const QString& text) const {
+    QFont smallest = font();
+    smallest.setPixelSize(static_cast<int>(FontRange{0}.smallest));
+    smallest.setBold(true);
+    return QFontMetricsF(smallest).horizontalAdvance(text);
+}
+
 QString CWeekChart::Degrees(int value) const {
     return ToQString(FillText(m_texts.Text(kTextDegreesPlain), {FormatInteger(value)}));
 }
@@ -66,8 +73,8 @@ void CWeekChart::paintEvent(QPaintEvent* /*event*/) {
                      Faded(m_look.Colour(SkinKey::kWeatherDAYSC), kChosenOpacity));
     PaintBars(painter, frame);
     PaintScales(painter, frame);
-    PaintCurve(painter, frame, &WeekColumn::low, m_look.Colour(SkinKey::kWeatherMOREC));
-    PaintCurve(painter, frame, &WeekColumn::high, m_look.Colour(SkinKey::kWeatherFBTC));
+    PaintCurve(painter, frame, &WeekColumn::low, m_look.Colour(SkinKey::kWeatherMOREC), Qt::DotLine);
+    PaintCurve(painter, frame, &WeekColumn::high, m_look.Colour(SkinKey::kWeatherFBTC), Qt::SolidLine);
 }
 
 /// Degrees on the left, the day of the month under each column, the height of the bars above.
@@ -84,13 +91,17 @@ void CWeekChart::PaintScales(QPainter& painter, const Frame& frame) const {
                     Degrees(m_picture.bottomDegrees), {font});
     }
     if (m_picture.topPrecipitation > 0) {
-        const auto most = FillText(m_texts.Text(kTextMillimetres), {FormatFixed(m_picture.topPrecipitation, 0)});
+        const QString most =
+            ToQString(FillText(m_texts.Text(kTextMillimetres), {FormatFixed(m_picture.topPrecipitation, 0)}));
+        const QString named = ToQString(m_texts.Text(kTextPrecipitation)) + QStringLiteral(" ") + most;
         PaintFitted(painter, {plot.left(), 0, plot.width(), plot.top()}, Qt::AlignRight | Qt::AlignVCenter,
-                    ToQString(m_texts.Text(kTextPrecipitation)) + QStringLiteral(" ") + ToQString(most), {font});
+                    WidthOf(named) <= plot.width() ? named : most, {font});
     }
     for (std::size_t i = 0; i < m_picture.columns.size(); ++i) {
         painter.setPen(m_look.Colour(SkinKey::kWeatherDAYSC));
-        const QString day = ToQString(m_texts.Text(kTextSunday + Weekday(m_picture.columns[i].date)));
+        const Date& date = m_picture.columns[i].date;
+        const QString name = ToQString(m_texts.Text(kTextSunday + Weekday(date)));
+        const QString day = WidthOf(name) < columns ? name : QString::number(date.day);
         PaintFitted(painter, {plot.left() + static_cast<double>(i) * columns, plot.bottom() + 1, columns, font * 1.6},
                     Qt::AlignCenter, day, {font}, i == m_chosen);
     }
@@ -107,14 +118,14 @@ void CWeekChart::PaintBars(QPainter& painter, const Frame& frame) const {
 }
 
 void CWeekChart::PaintCurve(QPainter& painter, const Frame& frame, std::optional<double> WeekColumn::*member,
-                            const QColor& colour) const {
+                            const QColor& colour, Qt::PenStyle style) const {
     const double thickness = std::clamp(frame.font * 0.16, 1.5, 3.0);
     for (const auto& run : CurveRuns(m_picture.columns, member)) {
         QPolygonF points;
         for (std::size_t i = 0; i < run.values.size(); ++i)
             points << QPointF(frame.plot.left() + (static_cast<double>(run.first + i) + 0.5) * frame.columns,
                               frame.plot.bottom() - run.values[i] * frame.plot.height());
-        painter.setPen(QPen(colour, thickness, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(QPen(colour, thickness, style, Qt::RoundCap, Qt::RoundJoin));
         painter.setBrush(Qt::NoBrush);
         painter.drawPolyline(points);
         painter.setBrush(colour);

@@ -38,7 +38,8 @@ private:
     void PaintScales(QPainter& painter, const Frame& frame) const;
     void PaintBars(QPainter& painter, const Frame& frame) const;
     void PaintCurve(QPainter& painter, const Frame& frame, std::optional<double> WeekColumn::*member,
-                    const QColor& colour) const;
+                    const QColor& colour, Qt::PenStyle style) const;
+    double WidthOf(const QString& text) const;  ///< at the smallest size
     QString Degrees(int value) const;
 
     const ITexts& m_texts;

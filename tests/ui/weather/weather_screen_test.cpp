@@ -183,9 +183,10 @@ TEST(WeatherLayout, PartsNeitherOverlapNorLeaveTheScreen) {
         const QRect area(QPoint(0, 0), size);
         const WeatherLayout layout = LayOutWeather(area);
         const DetailLayout detail = LayOutDetail(layout.body);
-        std::vector<QRect> common{layout.view, layout.unit, layout.update, layout.origin};
+        std::vector<QRect> common{layout.unit, layout.update, layout.origin};
         common.insert(common.end(), layout.places.begin(), layout.places.end());
-        if (!layout.heading.isEmpty()) common.push_back(layout.heading);
+        for (const QRect& spare : {layout.heading, layout.view})
+            if (!spare.isEmpty()) common.push_back(spare);
         for (auto parts : {LayOutDays(layout.body, 5),
                            std::vector{detail.previous, detail.name, detail.next, detail.details, detail.chart}}) {
             parts.insert(parts.end(), common.begin(), common.end());
