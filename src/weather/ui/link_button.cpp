@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kHoverOpacity = 26;  // of 255
 constexpr double kRadius = 6;
+constexpr int kBoldFrom = 64;  // pixels of width: the underline alone tells in a narrower one
 constexpr double kDisabledOpacity = 0.35;
 
 }  // namespace
@@ -51,7 +52,7 @@ void CLinkButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setPen(colour);
     if (!text().isEmpty())
         PaintFitted(painter, room, m_icon.isEmpty() ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft, text(),
-                    {std::clamp(height() * 0.5, 11.0, 20.0)}, isChecked());
+                    {std::clamp(height() * 0.5, 11.0, 20.0)}, isChecked() && width() >= kBoldFrom);
     if (isChecked()) painter.fillRect(QRectF(3, height() - 3, width() - 6, 3), m_look.Colour(SkinKey::kWeatherMOREC));
 }
 

@@ -102,6 +102,7 @@ void CWeekChart::PaintScales(QPainter& painter, const Frame& frame) const {
         const Date& date = m_picture.columns[i].date;
         const QString name = ToQString(m_texts.Text(kTextSunday + Weekday(date)));
         const QString day = WidthOf(name) < columns ? name : QString::number(date.day);
+        if (WidthOf(day) > columns + 2) continue;
         PaintFitted(painter, {plot.left() + static_cast<double>(i) * columns, plot.bottom() + 1, columns, font * 1.6},
                     Qt::AlignCenter, day, {font}, i == m_chosen);
     }
@@ -128,9 +129,10 @@ void CWeekChart::PaintCurve(QPainter& painter, const Frame& frame, std::optional
         painter.setPen(QPen(colour, thickness, style, Qt::RoundCap, Qt::RoundJoin));
         painter.setBrush(Qt::NoBrush);
         painter.drawPolyline(points);
+        painter.setPen(Qt::NoPen);
         painter.setBrush(colour);
         for (const auto& point : points)
-            painter.drawEllipse(point, thickness * 1.3, thickness * 1.3);
+            painter.drawEllipse(point, thickness * 1.6, thickness * 1.6);
     }
 }
 
