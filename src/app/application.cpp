@@ -83,6 +83,7 @@ void CApplication::MakeScreens() {
     MakeMap();
     m_feeds.emplace(CFeedWiring::Ports{m_files, m_store->Objects(), m_store->Registry(), m_boxes, m_clock, m_resources,
                                        *m_folder, m_look, *m_window});
+    MakeWeather();
     m_feeds->AddCurrencyScreen();
     MakeTools();
     m_feeds->AddNewsScreen();
@@ -125,6 +126,21 @@ void CApplication::MakeTools() {
     m_window->AddScreen(m_toolsScreen);
 }
 
+void CApplication::MakeWeather() {
+    const auto list = m_folder->Path(u"\\cities.wet").value_or(m_folder->Root() / "cities.wet");
+    m_weather.emplace(m_store->Objects(), m_files, list);
+    const CityChooser choose = [this](QWidget* parent, const QString& title, CityIndex current) {
+        return ChooseCity(parent, title, current);
+    };
+    const WeatherRequest request = [this](const std::u16string& feedName, const QSize& screen,
+                                          const std::function<bool()>& goOn) {
+        return m_feeds->Weather(feedName, screen, goOn);
+    };
+    m_weatherScreen = new CWeatherScreen({*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, m_files,
+                                          *m_weather, m_folder->Root(), choose, request});
+    m_window->AddScreen(m_weatherScreen);
+}
+
 void CApplication::MakeCommands() {
     m_commands.Add(kCommandHomeCity, this, [this] { m_clocksScreen->ChangeCity(0); });
     m_commands.Add(kCommandTwelveHour, this, [this] { ToggleSetting(keys::kRoamlytix, names::kTwelveHour); })
@@ -132,6 +148,9 @@ void CApplication::MakeCommands() {
     m_commands.Add(kCommandDeviceTimeZone, this, [this] { ToggleSetting(keys::kWorldClock, names::kSyncZone); })
         ->setCheckable(true);
     m_commands.Add(kCommandShowCities, this, [this] { ToggleSetting(keys::kMap, names::kShowCities, 1); })
+        ->setCheckable(true);
+    m_commands.Add(kCommandUpdateWeather, this, [this] { m_weatherScreen->Update(); });
+    m_commands.Add(kCommandFahrenheit, this, [this] { ToggleSetting(keys::kRoamlytix, names::kFahrenheit); })
         ->setCheckable(true);
     m_commands
         .Add(kCommandFullScreen, this,
@@ -154,6 +173,8 @@ void CApplication::UpdateChecks() {
     const bool twelve = m_settings->ReadDwordOr(keys::kRoamlytix, names::kTwelveHour, 0) == 1;
     m_commands.Find(kCommandTwelveHour)->setChecked(twelve);
     m_commands.Find(kCommandShowCities)->setChecked(m_settings->ReadDwordOr(keys::kMap, names::kShowCities, 1) == 1);
+    const bool fahrenheit = m_settings->ReadDwordOr(keys::kRoamlytix, names::kFahrenheit, 0) == 1;
+    m_commands.Find(kCommandFahrenheit)->setChecked(fahrenheit);
     m_commands.Find(kCommandDeviceTimeZone)->setChecked(LoadClockSettings(*m_settings).syncZone != 0);
 }
 

@@ -24,6 +24,7 @@
 #include "uikit/look.h"
 #include "uikit/qt_message_boxes.h"
 #include "uikit/template_menu.h"
+#include "weather/ui/weather_screen.h"
 
 namespace rlx {
 
@@ -55,6 +56,7 @@ private:
     void OpenFolder();
     void MakeScreens();
     void MakeTools();
+    void MakeWeather();
     void MakeCommands();
     void RestoreScreen();
     void LoadSkin();
@@ -83,11 +85,13 @@ private:
     std::optional<CRegistryStore> m_settings;
     std::optional<CApplicationFolder> m_folder;
     std::optional<CCityDatabase> m_cities;
+    std::optional<CWeatherStore> m_weather;
     CCommandTable m_commands;
     std::optional<CFeedWiring> m_feeds;
     std::unique_ptr<CMainWindow> m_window;
-    CClocksScreen* m_clocksScreen = nullptr;  ///< owned by the window
-    CToolsScreen* m_toolsScreen = nullptr;    ///< owned by the window
+    CClocksScreen* m_clocksScreen = nullptr;    ///< owned by the window
+    CToolsScreen* m_toolsScreen = nullptr;      ///< owned by the window
+    CWeatherScreen* m_weatherScreen = nullptr;  ///< owned by the window
 };
 
 }  // namespace rlx

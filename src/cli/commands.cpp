@@ -12,6 +12,7 @@ std::span<const Command> Commands() {
         Command{"sun", "sunrise, sunset and length of the day of a city", DeclareSun},
         Command{"sky", "where the sun stands at an instant", DeclareSky},
         Command{"map", "the night side of the world map", DeclareMap},
+        Command{"weather", "the stored forecasts, and fetching new ones", DeclareWeather},
         Command{"settings", "the device's settings: get, set, list", DeclareSettings},
         Command{"skin", "skins: show, check, list, use", DeclareSkin},
         Command{"lang", "languages and their texts", DeclareLang},

@@ -15,6 +15,7 @@ void DeclareTime(CLI::App& app, const SetAction& setAction);
 void DeclareSun(CLI::App& app, const SetAction& setAction);
 void DeclareSky(CLI::App& app, const SetAction& setAction);
 void DeclareMap(CLI::App& app, const SetAction& setAction);
+void DeclareWeather(CLI::App& app, const SetAction& setAction);
 void DeclareSettings(CLI::App& app, const SetAction& setAction);
 void DeclareSkin(CLI::App& app, const SetAction& setAction);
 void DeclareLang(CLI::App& app, const SetAction& setAction);

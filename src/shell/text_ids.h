@@ -267,6 +267,9 @@ enum TextId : int {
     kTextChooseWeatherPlace = 40486,
     kTextDaysGone = 40487,
     kTextWeatherTomorrow = 40488,
+    kTextSample = 40489,
+    kTextIconsOfSkin = 40490,
+    kTextIconsStandard = 40491,
 
     // Currency.
     kTextRatesOf = 40500,
