@@ -102,7 +102,7 @@ void CWeekChart::PaintScales(QPainter& painter, const Frame& frame) const {
         const Date& date = m_picture.columns[i].date;
         const QString name = ToQString(m_texts.Text(kTextSunday + Weekday(date)));
         const QString day = WidthOf(name) < columns ? name : QString::number(date.day);
-        if (WidthOf(day) > columns + 2) continue;
+        if (WidthOf(day) > columns) continue;
         PaintFitted(painter, {plot.left() + static_cast<double>(i) * columns, plot.bottom() + 1, columns, font * 1.6},
                     Qt::AlignCenter, day, {font}, i == m_chosen);
     }
