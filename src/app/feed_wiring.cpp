@@ -37,6 +37,16 @@ FeedDevice ThisDevice() {
     return device;
 }
 
+class CGoOnObserver : public IHttpObserver {
+public:
+    explicit CGoOnObserver(const std::function<bool()>& goOn) : m_goOn(goOn) {}
+
+    bool GoOn(const HttpProgress& /*progress*/) override { return m_goOn(); }
+
+private:
+    const std::function<bool()>& m_goOn;
+};
+
 }  // namespace
 
 CFeedWiring::CFeedWiring(const Ports& ports)
@@ -93,6 +103,20 @@ void CFeedWiring::WithServer(int title, const Request& request) {
     CProgressRequest progress(m_http, m_ports.resources, &m_ports.window, ToQString(m_ports.resources.Text(title)));
     request({progress, connections, m_ports.registry, m_ports.boxes, m_ports.resources}, progress, url);
     ShowNewsState();
+}
+
+std::u16string CFeedWiring::Weather(const std::u16string& feedName, const QSize& screen,
+                                    const std::function<bool()>& goOn) {
+    const std::u16string url = FeedServerAddress(m_ports.files, m_ports.folder.Root());
+    const std::optional<HttpUrl> address = ParseHttpUrl(url);
+    CMachineConnections connections(address ? address->host : std::string(),
+                                    m_ports.resources.Text(kTextLoopbackNetwork));
+    CFeedClient client({m_http, connections, m_ports.registry, m_ports.boxes, m_ports.resources});
+    CGoOnObserver observer(goOn);
+    const std::u16string parameters = Parameters().WeatherParameters(feedName, {screen.width(), screen.height()});
+    const std::u16string body = client.PostFeedRequest(url, parameters, false, &observer).body;
+    ShowNewsState();
+    return body;
 }
 
 void CFeedWiring::UpdateRates() {

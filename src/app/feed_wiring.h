@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -42,6 +43,10 @@ public:
 
     /// Makes the News page and lets the title bar's button lead to it. Comes after the screens of the row.
     void AddNewsScreen();
+
+    /// The server's reply to the weather request for a feed name, for a screen of that size; empty on any failure,
+    /// which was then reported. `goOn` is called many times a second; false ends the request.
+    std::u16string Weather(const std::u16string& feedName, const QSize& screen, const std::function<bool()>& goOn);
 
     void UpdateRates();
     void FetchNews();

@@ -172,6 +172,13 @@ enum TextId : int {
     kTextMapTip = 40314,
     kTextMapImageMissing = 40315,
     kTextImageBroken = 40316,
+    kTextMapMarginTooWide = 40317,
+    kTextMapToday = 40318,
+    kTextMapTomorrow = 40319,
+    kTextMapDay = 40320,
+    kTextMapYear = 40321,
+    kTextMapScrubber = 40324,
+    kTextMapPicture = 40325,
 
     // Weather.
     kTextForecast = 40400,
@@ -260,6 +267,9 @@ enum TextId : int {
     kTextChooseWeatherPlace = 40486,
     kTextDaysGone = 40487,
     kTextWeatherTomorrow = 40488,
+    kTextSample = 40489,
+    kTextIconsOfSkin = 40490,
+    kTextIconsStandard = 40491,
 
     // Currency.
     kTextRatesOf = 40500,
@@ -270,7 +280,6 @@ enum TextId : int {
     kTextRatesShipped = 40505,
     kTextNoSuchCurrency = 40506,
     kTextNoRates = 40507,
-    kTextCopyResult = 40508,
     kTextAmountIn = 40509,
     kTextNotAnAmount = 40510,
     kTextUpdatingRates = 40511,
@@ -295,6 +304,13 @@ enum TextId : int {
     kTextNotANumber = 40708,
     kTextSwapUnits = 40709,
     kTextRecentPairs = 40710,
+    kTextCopyResult = 40711,
+    kTextResult = 40712,
+    kTextMeasure = 40713,
+    kTextPairOfUnits = 40714,
+    kTextUnitSearchHint = 40715,
+    kTextNoRecentPairs = 40716,
+    kTextNoSuchMeasure = 40717,
     kTextUnitNameEmpty = 40720,
     kTextUnitsNotEditable = 40721,
     kTextUnitsNotSaved = 40722,
@@ -337,6 +353,7 @@ enum TextId : int {
     kTextWomen = 40931,
     kTextChildren = 40932,
     kTextSizesGuideline = 40933,
+    kTextNoSuchGarment = 40934,
 
     // Packing list.
     kTextNewCategory = 41000,
@@ -362,6 +379,9 @@ enum TextId : int {
     kTextPackedCount = 41020,
     kTextTemplates = 41021,
     kTextEmptyTemplate = 41022,
+    kTextNoItemsYet = 41023,
+    kTextNoneChecked = 41024,
+    kTextAllChecked = 41025,
     kTextCategoryBefore = 41030,
     kTextListBefore = 41031,
     kTextPackingNotFound = 41032,
@@ -392,6 +412,8 @@ enum TextId : int {
     kTextEachPays = 41107,
     kTextTax = 41108,
     kTextCannotSplit = 41110,
+    kTextTwoShares = 41111,
+    kTextPercent = 41112,
 
     // News and feeds.
     kTextConnectionBefore = 41200,

@@ -36,7 +36,7 @@ CToolHeader::CToolHeader(const QString& backText, const CLook& look, QWidget* pa
     bold.setBold(true);
     m_label->setFont(bold);
     m_label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_label->setMinimumWidth(0);
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(2, 0, kGap, 0);
     layout->setSpacing(kGap);
@@ -64,9 +64,9 @@ void CToolHeader::ApplyLook() {
 void CToolHeader::Fit() {
     m_back->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     const int titleWidth = m_label->fontMetrics().horizontalAdvance(m_title);
-    if (m_back->sizeHint().width() + titleWidth + 3 * kGap > width())
+    if (m_back->sizeHint().width() + titleWidth + 2 * kGap > width())
         m_back->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    const int room = width() - m_back->sizeHint().width() - 3 * kGap;
+    const int room = width() - m_back->sizeHint().width() - 2 * kGap;
     m_label->setText(m_label->fontMetrics().elidedText(m_title, Qt::ElideRight, room));
 }
 

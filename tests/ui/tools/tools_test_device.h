@@ -1,0 +1,38 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "platform/fake/memory_file_system.h"
+#include "platform/fake/memory_object_store.h"
+#include "platform/fake/memory_registry.h"
+#include "platform/fake/scripted_message_boxes.h"
+#include "platform/image/image_codec.h"
+#include "shell/registry_store.h"
+#include "shell/resources.h"
+#include "uikit/look.h"
+
+namespace rlx::test {
+
+/// What the tools ask for, in memory.
+struct ToolsDevice {
+    CMemoryRegistry registry;
+    CRegistryStore settings{registry};
+    CMemoryObjectStore store;
+    CMemoryFileSystem files;
+    CImageCodec codec;
+    CResources resources;
+    CScriptedMessageBoxes boxes;
+    CLook look{files, codec};
+};
+
+/// The child of that class and name; a test that looks for one that is not there fails.
+template <typename Widget>
+Widget* Child(QWidget& parent, const char* name) {
+    auto* found = parent.findChild<Widget*>(name);
+    EXPECT_NE(found, nullptr) << name;
+    return found;
+}
+
+}  // namespace rlx::test
