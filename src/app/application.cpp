@@ -2,7 +2,9 @@
 
 #include <QPlainTextEdit>
 
+#include "base/number.h"
 #include "base/text.h"
+#include "map/ui/sun_details.h"
 #include "places/ui/city_chooser.h"
 #include "shell/clock_settings.h"
 #include "shell/command_ids.h"
@@ -15,6 +17,8 @@
 #include "tools/clothing/ui/clothing_tool.h"
 #include "tools/converter/ui/converter_tool.h"
 #include "tools/dialing/ui/dialing_tool.h"
+#include "tools/packing/ui/packing_page.h"
+#include "tools/tiptax/ui/tip_page.h"
 #include "uikit/qt_text.h"
 #include "uikit/template_dialog.h"
 
@@ -76,11 +80,40 @@ void CApplication::MakeScreens() {
     m_clocksScreen = new CClocksScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, choose);
     m_window->AddScreen(m_clocksScreen);
     connect(m_clocksScreen, &CClocksScreen::CitiesChanged, m_window.get(), &CMainWindow::RefreshScreens);
+    MakeMap();
+    m_feeds.emplace(CFeedWiring::Ports{m_files, m_store->Objects(), m_store->Registry(), m_boxes, m_clock, m_resources,
+                                       *m_folder, m_look, *m_window});
+    MakeWeather();
+    m_feeds->AddCurrencyScreen();
     MakeTools();
+    m_feeds->AddNewsScreen();
     connect(m_window.get(), &CMainWindow::ScreenShown, this, [this](int index) {
         m_settings->WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kCurrentTab,
                                static_cast<std::uint32_t>(index));
     });
+}
+
+void CApplication::MakeMap() {
+    auto* map = new CMapScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look);
+    map->SetShowInformation([this](CityIndex city) { ShowCityInformation(city); });
+    m_window->AddScreen(map);
+    m_clocksScreen->SetShowSunDetails([this](const CitySunDetails& details) { OpenSunDetails(details); });
+}
+
+void CApplication::ShowCityInformation(CityIndex city) {
+    CCityTimes times(*m_cities, m_clock, m_resources, LoadClockSettings(*m_settings));
+    const CitySunDetails details = SunDetailsOf(*m_cities, times, m_resources, city, m_clock.Now());
+    const MessageBox box{m_resources.Text(kTextCityInformation), CityInfoText(details, m_resources), BoxIcon::kNone,
+                         BoxButtons::kYesNo};
+    if (m_boxes.Show(box) == BoxAnswer::kYes) OpenSunDetails(details);
+}
+
+void CApplication::OpenSunDetails(const CitySunDetails& details) {
+    const bool twelve = m_settings->ReadDwordOr(keys::kRoamlytix, names::kTwelveHour, 0) == 1;
+    const DateTime now = m_clock.Now();
+    CCityTimes times(*m_cities, m_clock, m_resources, LoadClockSettings(*m_settings));
+    const Date date = CityDateOf(ParseInteger(details.effectiveGmt), times.Reference(now), now);
+    ShowSunDetails(details, date, twelve ? ClockForm::kTwelve : ClockForm::kTwentyFour, m_resources, m_window.get());
 }
 
 void CApplication::MakeTools() {
@@ -88,7 +121,24 @@ void CApplication::MakeTools() {
     m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), m_resources, m_boxes, m_look));
     m_toolsScreen->AddPage(new CDialingTool(m_resources, m_look));
     m_toolsScreen->AddPage(new CClothingTool(m_resources, m_look));
+    m_toolsScreen->AddPage(new CPackingPage(m_files, m_folder->Root(), m_resources, m_boxes, m_look));
+    m_toolsScreen->AddPage(new CTipPage(m_resources, m_boxes, m_look));
     m_window->AddScreen(m_toolsScreen);
+}
+
+void CApplication::MakeWeather() {
+    const auto list = m_folder->Path(u"\\cities.wet").value_or(m_folder->Root() / "cities.wet");
+    m_weather.emplace(m_store->Objects(), m_files, list);
+    const CityChooser choose = [this](QWidget* parent, const QString& title, CityIndex current) {
+        return ChooseCity(parent, title, current);
+    };
+    const WeatherRequest request = [this](const std::u16string& feedName, const QSize& screen,
+                                          const std::function<bool()>& goOn) {
+        return m_feeds->Weather(feedName, screen, goOn);
+    };
+    m_weatherScreen = new CWeatherScreen({*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, m_files,
+                                          *m_weather, m_folder->Root(), choose, request});
+    m_window->AddScreen(m_weatherScreen);
 }
 
 void CApplication::MakeCommands() {
@@ -97,10 +147,19 @@ void CApplication::MakeCommands() {
         ->setCheckable(true);
     m_commands.Add(kCommandDeviceTimeZone, this, [this] { ToggleSetting(keys::kWorldClock, names::kSyncZone); })
         ->setCheckable(true);
+    m_commands.Add(kCommandShowCities, this, [this] { ToggleSetting(keys::kMap, names::kShowCities, 1); })
+        ->setCheckable(true);
+    m_commands.Add(kCommandUpdateWeather, this, [this] { m_weatherScreen->Update(); });
+    m_commands.Add(kCommandFahrenheit, this, [this] { ToggleSetting(keys::kRoamlytix, names::kFahrenheit); })
+        ->setCheckable(true);
     m_commands
         .Add(kCommandFullScreen, this,
              [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); })
         ->setShortcut(QKeySequence::FullScreen);
+    m_commands.Add(kCommandUpdateRates, this, [this] { m_feeds->UpdateRates(); });
+    m_commands.Add(kCommandFetchNews, this, [this] { m_feeds->FetchNews(); });
+    m_commands.Add(kCommandShowNews, this, [this] { m_feeds->ShowNews(); });
+    m_commands.Add(kCommandOwnerName, this, [this] { m_feeds->AskOwnerName(); });
     m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });
     m_commands.Add(kCommandAbout, this, [this] { ShowAbout(); });
     m_commands.Add(kCommandExit, this, [this] { m_window->close(); })->setShortcut(QKeySequence::Quit);
@@ -113,12 +172,15 @@ void CApplication::MakeCommands() {
 void CApplication::UpdateChecks() {
     const bool twelve = m_settings->ReadDwordOr(keys::kRoamlytix, names::kTwelveHour, 0) == 1;
     m_commands.Find(kCommandTwelveHour)->setChecked(twelve);
+    m_commands.Find(kCommandShowCities)->setChecked(m_settings->ReadDwordOr(keys::kMap, names::kShowCities, 1) == 1);
+    const bool fahrenheit = m_settings->ReadDwordOr(keys::kRoamlytix, names::kFahrenheit, 0) == 1;
+    m_commands.Find(kCommandFahrenheit)->setChecked(fahrenheit);
     m_commands.Find(kCommandDeviceTimeZone)->setChecked(LoadClockSettings(*m_settings).syncZone != 0);
 }
 
 /// Writes the negation of the current state.
-void CApplication::ToggleSetting(std::u16string_view key, std::u16string_view name) {
-    const bool on = m_settings->ReadDwordOr(key, name, 0) != 0;
+void CApplication::ToggleSetting(std::u16string_view key, std::u16string_view name, std::uint32_t fallback) {
+    const bool on = m_settings->ReadDwordOr(key, name, fallback) != 0;
     m_settings->WriteDword(RootOf(key), key, name, on ? 0 : 1);
     m_window->RefreshScreens();
 }

@@ -5,10 +5,12 @@
 #include <optional>
 #include <string>
 
+#include "app/feed_wiring.h"
 #include "app/main_window.h"
 #include "app/silent_message_boxes.h"
 #include "base/calendar.h"
 #include "clocks/ui/clocks_screen.h"
+#include "map/ui/map_screen.h"
 #include "places/city_database.h"
 #include "platform/image/image_codec.h"
 #include "platform/posix/frozen_clock.h"
@@ -22,6 +24,7 @@
 #include "uikit/look.h"
 #include "uikit/qt_message_boxes.h"
 #include "uikit/template_menu.h"
+#include "weather/ui/weather_screen.h"
 
 namespace rlx {
 
@@ -53,13 +56,17 @@ private:
     void OpenFolder();
     void MakeScreens();
     void MakeTools();
+    void MakeWeather();
     void MakeCommands();
     void RestoreScreen();
     void LoadSkin();
     void ApplyLook();
     void UpdateChecks();
-    void ToggleSetting(std::u16string_view key, std::u16string_view name);
+    void ToggleSetting(std::u16string_view key, std::u16string_view name, std::uint32_t fallback = 0);
     void ChooseHomeCity();
+    void MakeMap();
+    void ShowCityInformation(CityIndex city);
+    void OpenSunDetails(const CitySunDetails& details);
     void ShowCredits();
     void ShowAbout();
     std::optional<CityIndex> ChooseCity(QWidget* parent, const QString& title, CityIndex current);
@@ -78,10 +85,13 @@ private:
     std::optional<CRegistryStore> m_settings;
     std::optional<CApplicationFolder> m_folder;
     std::optional<CCityDatabase> m_cities;
+    std::optional<CWeatherStore> m_weather;
     CCommandTable m_commands;
+    std::optional<CFeedWiring> m_feeds;
     std::unique_ptr<CMainWindow> m_window;
-    CClocksScreen* m_clocksScreen = nullptr;  ///< owned by the window
-    CToolsScreen* m_toolsScreen = nullptr;    ///< owned by the window
+    CClocksScreen* m_clocksScreen = nullptr;    ///< owned by the window
+    CToolsScreen* m_toolsScreen = nullptr;      ///< owned by the window
+    CWeatherScreen* m_weatherScreen = nullptr;  ///< owned by the window
 };
 
 }  // namespace rlx

@@ -11,6 +11,7 @@
 #include "base/text.h"
 #include "shell/fill_text.h"
 #include "uikit/qt_text.h"
+#include "uikit/window_style.h"
 
 namespace {
 
@@ -105,7 +106,7 @@ int main(int count, char** words) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qInstallMessageHandler(DropPluginChatter);
     }
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new rlx::CWindowStyle);
     QApplication qt(count, words);
     QApplication::setApplicationName("roamlytix");
     QApplication::setApplicationVersion(RLX_VERSION);

@@ -8,6 +8,7 @@ enum MenuId : int {
     kMenuMain = 100,
     kMenuClock = 101,    // of one clock: long tap or right click
     kMenuPacking = 102,  // of the packing list page
+    kMenuWeather = 104,  // of one place: long tap or right click
 };
 
 enum CommandId : int {
@@ -38,6 +39,9 @@ enum CommandId : int {
     kCommandClockCity = 261,
     kCommandClockAsHome = 262,
     kCommandClockReminder = 263,
+
+    kCommandWeatherPlace = 280,
+    kCommandWeatherDays = 281,
 
     kCommandAddCategory = 300,
     kCommandAddList = 301,

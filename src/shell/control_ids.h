@@ -14,8 +14,9 @@ enum DialogId : int {
     kDialogOwnerName = 324,
     kDialogSunDetails = 325,
     kDialogCredits = 326,
-    kDialogAddItem = 327,     // Packing List > New item
-    kDialogAddFromAll = 328,  // Packing List > Add/Remove item(s)
+    kDialogAddItem = 327,      // Packing List > New item
+    kDialogAddFromAll = 328,   // Packing List > Add/Remove item(s)
+    kDialogNewCategory = 336,  // Packing List > New category
 };
 
 enum ControlId : int {
@@ -55,9 +56,17 @@ enum ControlId : int {
     kControlItemText = 1090,
     kControlItemLists = 1091,
     kControlItemCategories = 1092,
+    kControlItemListsLabel = 1093,
+    kControlItemCategoriesLabel = 1094,
+    kControlItemHint = 1095,
+    kControlAddFromAll = 1096,
+    kControlTemplate = 1097,
     kControlFromItems = 1100,
     kControlToLists = 1101,
     kControlToCategories = 1102,
+    kControlToListsLabel = 1103,
+    kControlOtherListsLabel = 1104,
+    kControlToCategoriesLabel = 1105,
 };
 
 }  // namespace rlx

@@ -172,6 +172,13 @@ enum TextId : int {
     kTextMapTip = 40314,
     kTextMapImageMissing = 40315,
     kTextImageBroken = 40316,
+    kTextMapMarginTooWide = 40317,
+    kTextMapToday = 40318,
+    kTextMapTomorrow = 40319,
+    kTextMapDay = 40320,
+    kTextMapYear = 40321,
+    kTextMapScrubber = 40324,
+    kTextMapPicture = 40325,
 
     // Weather.
     kTextForecast = 40400,
@@ -260,6 +267,9 @@ enum TextId : int {
     kTextChooseWeatherPlace = 40486,
     kTextDaysGone = 40487,
     kTextWeatherTomorrow = 40488,
+    kTextSample = 40489,
+    kTextIconsOfSkin = 40490,
+    kTextIconsStandard = 40491,
 
     // Currency.
     kTextRatesOf = 40500,
@@ -267,6 +277,12 @@ enum TextId : int {
     kTextSwapCurrencies = 40502,
     kTextCurrencySearchHint = 40503,
     kTextChooseCurrency = 40504,
+    kTextRatesShipped = 40505,
+    kTextNoSuchCurrency = 40506,
+    kTextNoRates = 40507,
+    kTextAmountIn = 40509,
+    kTextNotAnAmount = 40510,
+    kTextUpdatingRates = 40511,
 
     // The frame of the Tools screen.
     kTextBackToTools = 40600,
@@ -363,6 +379,9 @@ enum TextId : int {
     kTextPackedCount = 41020,
     kTextTemplates = 41021,
     kTextEmptyTemplate = 41022,
+    kTextNoItemsYet = 41023,
+    kTextNoneChecked = 41024,
+    kTextAllChecked = 41025,
     kTextCategoryBefore = 41030,
     kTextListBefore = 41031,
     kTextPackingNotFound = 41032,
@@ -393,6 +412,8 @@ enum TextId : int {
     kTextEachPays = 41107,
     kTextTax = 41108,
     kTextCannotSplit = 41110,
+    kTextTwoShares = 41111,
+    kTextPercent = 41112,
 
     // News and feeds.
     kTextConnectionBefore = 41200,
@@ -410,6 +431,9 @@ enum TextId : int {
     kTextLoopbackNetwork = 41220,
     kTextRatesNotSaved = 41221,
     kTextNewsNotSaved = 41222,
+    kTextFetchingNews = 41223,
+    kTextLargerText = 41224,
+    kTextSmallerText = 41225,
 
     // Skins.
     kTextSkinNotFound = 41300,

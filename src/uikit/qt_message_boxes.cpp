@@ -1,5 +1,6 @@
 #include "uikit/qt_message_boxes.h"
 
+#include <QCheckBox>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -34,14 +35,28 @@ void CQtMessageBoxes::SetOwner(QWidget* owner) {
 }
 
 BoxAnswer CQtMessageBoxes::Show(const MessageBox& box) {
+    return ShowBox(box, nullptr);
+}
+
+BoxAnswer CQtMessageBoxes::ShowWithCheck(const MessageBox& box, const std::u16string& checkText, bool& checked) {
+    QCheckBox check(ToQString(checkText));
+    check.setObjectName("check");
+    const BoxAnswer answer = ShowBox(box, &check);
+    checked = check.isChecked();
+    return answer;
+}
+
+BoxAnswer CQtMessageBoxes::ShowBox(const MessageBox& box, QCheckBox* check) {
     QMessageBox dialog(IconOf(box.icon), ToQString(box.title), ToQString(box.text), QMessageBox::NoButton, m_owner);
     dialog.setObjectName("messageBox");
     dialog.setTextFormat(Qt::PlainText);
+    dialog.setCheckBox(check);
     if (box.buttons == BoxButtons::kOk) {
         QPushButton* ok = dialog.addButton(ToQString(m_texts.Text(kTextOk)), QMessageBox::AcceptRole);
         ok->setObjectName("ok");
         dialog.setEscapeButton(ok);
         dialog.exec();
+        if (check != nullptr) check->setParent(nullptr);
         return BoxAnswer::kOk;
     }
     QPushButton* yes = dialog.addButton(ToQString(m_texts.Text(kTextYes)), QMessageBox::YesRole);
@@ -51,6 +66,7 @@ BoxAnswer CQtMessageBoxes::Show(const MessageBox& box) {
     dialog.setDefaultButton(no);
     dialog.setEscapeButton(no);
     dialog.exec();
+    if (check != nullptr) check->setParent(nullptr);  // the caller's, not the box's
     return dialog.clickedButton() == yes ? BoxAnswer::kYes : BoxAnswer::kNo;
 }
 

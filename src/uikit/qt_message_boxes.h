@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QPointer>
 #include <QWidget>
 
@@ -17,8 +18,12 @@ public:
     void SetOwner(QWidget* owner);
 
     BoxAnswer Show(const MessageBox& box) override;
+    BoxAnswer ShowWithCheck(const MessageBox& box, const std::u16string& checkText, bool& checked) override;
 
 private:
+    /// `check` may be null; it stays the caller's.
+    BoxAnswer ShowBox(const MessageBox& box, QCheckBox* check);
+
     const ITexts& m_texts;
     QPointer<QWidget> m_owner;
 };

@@ -1,0 +1,159 @@
+#include "app/feed_wiring.h"
+
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QScreen>
+
+#include "base/text.h"
+#include "feeds/feed_address.h"
+#include "feeds/http_url.h"
+#include "feeds/news_fetch.h"
+#include "platform/posix/machine_connections.h"
+#include "platform/posix/machine_info.h"
+#include "shell/boxes.h"
+#include "shell/control_ids.h"
+#include "shell/program_paths.h"
+#include "shell/setting_names.h"
+#include "uikit/qt_text.h"
+#include "uikit/template_dialog.h"
+
+namespace rlx {
+
+namespace {
+
+FeedDevice ThisDevice() {
+    const MachineInfo machine = ReadMachineInfo();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const QSize whole = screen == nullptr ? QSize() : screen->size() * screen->devicePixelRatio();
+    const QSize free = screen == nullptr ? QSize() : screen->availableSize() * screen->devicePixelRatio();
+    FeedDevice device;
+    device.osMajor = machine.osMajor;
+    device.osMinor = machine.osMinor;
+    device.processor = machine.processor;
+    device.appVersion = Widen(RLX_VERSION);
+    device.screen = {whole.width(), whole.height()};
+    device.workArea = {free.width(), free.height()};
+    return device;
+}
+
+class CGoOnObserver : public IHttpObserver {
+public:
+    explicit CGoOnObserver(const std::function<bool()>& goOn) : m_goOn(goOn) {}
+
+    bool GoOn(const HttpProgress& /*progress*/) override { return m_goOn(); }
+
+private:
+    const std::function<bool()>& m_goOn;
+};
+
+}  // namespace
+
+CFeedWiring::CFeedWiring(const Ports& ports)
+    : m_ports(ports),
+      m_http(ProgramFolders({}).executableFolder),
+      m_list(LoadRatesList(ports.files, ports.folder.Root())),
+      m_currencies(ports.store),
+      m_newsPage(ports.registry, ports.files, ports.resources, ports.folder.Root()) {
+    m_currencies.EnsureCreated(m_list);
+}
+
+void CFeedWiring::AddCurrencyScreen() {
+    const CCurrencyScreen::Source source{m_currencies, m_ports.registry,
+                                         ShippedRatesDate(m_ports.files, m_ports.folder.Root())};
+    m_currencyScreen = new CCurrencyScreen(source, m_ports.clock, m_ports.resources, m_ports.look);
+    m_ports.window.AddScreen(m_currencyScreen);
+    QObject::connect(m_currencyScreen, &CCurrencyScreen::UpdateChosen, [this] { UpdateRates(); });
+}
+
+void CFeedWiring::AddNewsScreen() {
+    const auto openLink = [](const QUrl& link) { QDesktopServices::openUrl(link); };
+    m_newsScreen = new CNewsScreen(m_newsPage, m_ports.resources, m_ports.boxes, m_ports.look, openLink);
+    m_newsIndex = m_ports.window.AddScreen(m_newsScreen, false);
+    QObject::connect(m_newsScreen, &CNewsScreen::FetchChosen, [this] { FetchNews(); });
+    QObject::connect(m_newsScreen, &CNewsScreen::PageShown, [this] { ShowNewsState(); });
+    QObject::connect(m_newsScreen, &CNewsScreen::BackChosen, [this] { m_ports.window.ShowScreen(m_cameFrom); });
+    QObject::connect(&m_ports.window, &CMainWindow::NewsChosen, [this] { ShowNews(); });
+    ShowNewsState();
+}
+
+void CFeedWiring::ShowNews() {
+    if (m_ports.window.CurrentIndex() != m_newsIndex) m_cameFrom = m_ports.window.CurrentIndex();
+    m_ports.window.ShowScreen(m_newsIndex);
+}
+
+void CFeedWiring::ShowNewsState() {
+    m_ports.window.SetFreshNews(m_newsPage.State().newNews);
+    if (m_newsScreen != nullptr) m_newsScreen->Refresh();
+}
+
+CFeedParameters CFeedWiring::Parameters() {
+    return {m_ports.registry, ThisDevice(), [this] { AskOwnerName(); }};
+}
+
+void CFeedWiring::WithServer(int title, const Request& request) {
+    const std::u16string url = FeedServerAddress(m_ports.files, m_ports.folder.Root());
+    if (url.empty()) {
+        m_ports.boxes.Show(ErrorBox(m_ports.resources, m_ports.resources.Text(kTextFeedServerMissing)));
+        return;
+    }
+    const std::optional<HttpUrl> address = ParseHttpUrl(url);
+    CMachineConnections connections(address ? address->host : std::string(),
+                                    m_ports.resources.Text(kTextLoopbackNetwork));
+    CProgressRequest progress(m_http, m_ports.resources, &m_ports.window, ToQString(m_ports.resources.Text(title)));
+    request({progress, connections, m_ports.registry, m_ports.boxes, m_ports.resources}, progress, url);
+    ShowNewsState();
+}
+
+std::u16string CFeedWiring::Weather(const std::u16string& feedName, const QSize& screen,
+                                    const std::function<bool()>& goOn) {
+    const std::u16string url = FeedServerAddress(m_ports.files, m_ports.folder.Root());
+    const std::optional<HttpUrl> address = ParseHttpUrl(url);
+    CMachineConnections connections(address ? address->host : std::string(),
+                                    m_ports.resources.Text(kTextLoopbackNetwork));
+    CFeedClient client({m_http, connections, m_ports.registry, m_ports.boxes, m_ports.resources});
+    CGoOnObserver observer(goOn);
+    const std::u16string parameters = Parameters().WeatherParameters(feedName, {screen.width(), screen.height()});
+    const std::u16string body = client.PostFeedRequest(url, parameters, false, &observer).body;
+    ShowNewsState();
+    return body;
+}
+
+void CFeedWiring::UpdateRates() {
+    WithServer(kTextUpdatingRates, [this](const FeedPorts& ports, CProgressRequest&, const std::u16string& url) {
+        CRatesUpdate update(ports, m_ports.store, m_list);
+        const CFeedParameters builder = Parameters();
+        const RatesLayout layout = m_currencyScreen->Layout();
+        const std::u16string parameters = builder.CurrencyParameters(builder.HomeName(), layout.workArea);
+        m_currencyScreen->TakeUpdate(update.Update(m_currencies, url, parameters, layout));
+    });
+}
+
+void CFeedWiring::FetchNews() {
+    NewsFetchResult result;
+    WithServer(kTextFetchingNews, [&](const FeedPorts& ports, CProgressRequest&, const std::u16string& url) {
+        CNewsFetch fetch(ports, m_ports.files, m_ports.folder.Root());
+        result = fetch.Fetch(url, Parameters().NewsParameters());
+    });
+    if (!result.saved) return;
+    if (m_ports.window.CurrentIndex() == m_newsIndex) {
+        m_newsScreen->Entered();
+    } else {
+        ShowNews();
+    }
+}
+
+void CFeedWiring::AskOwnerName() {
+    CRegistryStore settings(m_ports.registry);
+    CTemplateDialog dialog(m_ports.resources.Dialog(kDialogOwnerName).value_or(DialogTemplate{}), &m_ports.window);
+    dialog.setObjectName("ownerName");
+    auto* field = dialog.Control<QLineEdit>(kControlOwnerName);
+    if (field == nullptr) return;
+    constexpr int kLongestName = 383;
+    field->setMaxLength(kLongestName);
+    field->setText(ToQString(settings.ReadString(RootOf(keys::kOwner), keys::kOwner, names::kOwnerName)));
+    if (dialog.exec() != QDialog::Accepted) return;
+    settings.WriteString(RootOf(keys::kOwner), keys::kOwner, names::kOwnerName, FromQString(field->text().trimmed()));
+}
+
+}  // namespace rlx

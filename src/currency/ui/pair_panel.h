@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+#include <array>
+#include <functional>
+
+#include "currency/converter_pairs.h"
+#include "shell/texts.h"
+#include "uikit/look.h"
+#include "uikit/search_combo.h"
+
+namespace rlx {
+
+/// One converter: two currencies and two amounts. What is typed into either amount converts into the other at once.
+/// User-interface thread; references must outlive it.
+class CPairPanel : public QFrame {
+    Q_OBJECT
+
+public:
+    /// The widgets are called "currency0", "currency1", "amount0", "amount1", "swap", "copy" and "rate".
+    CPairPanel(const ITexts& texts, const CLook& look, QWidget* parent);
+
+    /// Replaces the currencies, which must outlive the panel's use of them, and chooses a pair. The amounts stay.
+    void SetCurrencies(const CurrencyList& currencies, const CurrencyPair& pair);
+    CurrencyPair Pair() const;
+
+    /// Lays the panel out with rows of that height; takes the colours of the look.
+    void Arrange(int rowHeight, bool withRate);
+    void TakeColours();
+
+    /// Height of a panel in pixels.
+    static int HeightFor(int rowHeight, bool withRate);
+
+signals:
+    /// The user chose another currency or swapped the two.
+    void PairChanged();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    static constexpr int kSides = 2;
+
+    void MakeSide(int side);
+    QToolButton* MakeButton(const char* name, int text);
+    void Convert();
+    void ShowRate();
+    void NameWidgets();
+    void ShowCodes();
+    void Swap();
+    void Copy();
+    const CurrencyEntry* Currency(int side) const;
+
+    const ITexts& m_texts;
+    const CLook& m_look;
+    const CurrencyList* m_currencies = nullptr;
+    std::array<CSearchCombo*, kSides> m_combos{};
+    std::array<QLineEdit*, kSides> m_amounts{};
+    QLabel* m_rate;
+    QToolButton* m_swap;
+    QToolButton* m_copy;
+    int m_typed = 0;  ///< the side whose amount counts; the other is the result
+};
+
+}  // namespace rlx

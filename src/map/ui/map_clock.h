@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QAbstractButton>
+
+#include "places/city_times.h"
+#include "uikit/look.h"
+
+namespace rlx {
+
+/// The clock beside the map: analog where there is room, digital time, city and date. A button: pressing it chooses
+/// among the clocks. User-interface thread.
+class CMapClock : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit CMapClock(const CLook& look, QWidget* parent = nullptr);
+
+    void Show(const ClockReading& reading, const QString& time, const QString& date);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void PaintTall(QPainter& painter, const QRectF& area) const;
+    void PaintFlat(QPainter& painter, const QRectF& area) const;
+    void PaintFace(QPainter& painter, const QRectF& area) const;
+
+    const CLook& m_look;
+    ClockReading m_reading;
+    QString m_time;
+    QString m_date;
+};
+
+}  // namespace rlx

@@ -1,0 +1,114 @@
+#include "news/ui/news_screen.h"
+
+#include <QAction>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "base/text.h"
+#include "shell/boxes.h"
+#include "shell/fill_text.h"
+#include "uikit/icons.h"
+#include "uikit/qt_text.h"
+
+namespace rlx {
+
+namespace {
+
+constexpr int kButtonHeight = 32;
+constexpr int kLongestLinkShown = 300;
+
+}  // namespace
+
+CNewsScreen::CNewsScreen(CNewsPage& page, const ITexts& texts, IMessageBoxes& boxes, const CLook& look,
+                         OpenLink openLink)
+    : m_page(page),
+      m_texts(texts),
+      m_boxes(boxes),
+      m_look(look),
+      m_openLink(std::move(openLink)),
+      m_view(new CNewsView(
+          look, [this] { return Narrow(m_page.Html()); }, this)),
+      m_state(new QLabel(this)),
+      m_fetch(new QPushButton(ToQString(texts.Text(kTextFetchNews)), this)) {
+    setObjectName("newsScreen");
+    setFocusProxy(m_view);
+    LayOut();
+    MakeActions();
+    connect(m_fetch, &QPushButton::clicked, this, &CNewsScreen::FetchChosen);
+    connect(m_view, &QTextBrowser::anchorClicked, this, &CNewsScreen::FollowLink);
+    connect(&m_look, &CLook::Changed, this, &CNewsScreen::TakeColours);
+    TakeColours();
+    Refresh();
+}
+
+void CNewsScreen::LayOut() {
+    m_fetch->setObjectName("fetchNews");
+    m_fetch->setMinimumHeight(kButtonHeight);
+    m_state->setObjectName("newsState");
+    m_state->setTextFormat(Qt::PlainText);
+    auto* bar = new QHBoxLayout;
+    bar->setContentsMargins(6, 4, 4, 4);
+    bar->addWidget(m_state, 1);
+    bar->addWidget(m_fetch);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addLayout(bar);
+    column->addWidget(m_view, 1);
+}
+
+/// The squares are out of reach of a keyboard.
+void CNewsScreen::MakeActions() {
+    const auto add = [this](int text, QKeySequence::StandardKey key, int by) {
+        auto* action = new QAction(ToQString(m_texts.Text(text)), this);
+        action->setShortcuts(key);
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        connect(action, &QAction::triggered, m_view, [this, by] { m_view->StepZoom(by); });
+        addAction(action);
+    };
+    add(kTextLargerText, QKeySequence::ZoomIn, 1);
+    add(kTextSmallerText, QKeySequence::ZoomOut, -1);
+}
+
+void CNewsScreen::Refresh() {
+    m_state->setText(m_page.State().newNews ? ToQString(m_texts.Text(kTextNewNews)) : QString());
+}
+
+void CNewsScreen::Entered() {
+    m_page.Show(*m_view);
+    Refresh();
+    emit PageShown();
+}
+
+bool CNewsScreen::GoBack() {
+    emit BackChosen();
+    return true;
+}
+
+/// A link within the page moves there; one that leads out of the program is only followed when the user agrees.
+void CNewsScreen::FollowLink(const QUrl& link) {
+    if (link.isRelative()) {
+        if (!link.fragment().isEmpty()) m_view->scrollToAnchor(link.fragment());
+        return;
+    }
+    const QString scheme = link.scheme();
+    if (scheme != "http" && scheme != "https" && scheme != "mailto") return;
+    const QString shown = link.toString(QUrl::FullyEncoded).left(kLongestLinkShown);
+    const std::u16string question = FillText(m_texts.Text(kTextAskOpenLink), {FromQString(shown)});
+    if (m_boxes.Show(QuestionBox(m_texts, question)) == BoxAnswer::kYes) m_openLink(link);
+}
+
+void CNewsScreen::TakeColours() {
+    setPalette(m_look.Palette());
+    m_fetch->setIcon(TintedIcon("update", m_look.PanelText()));
+    m_view->TakeColours();
+    update();
+}
+
+void CNewsScreen::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    m_look.PaintBackground(painter, rect(), LookPicture::kCommon);
+}
+
+}  // namespace rlx

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+#include <QUrl>
+#include <functional>
+
+#include "news/news_page.h"
+#include "news/ui/news_view.h"
+#include "platform/message_boxes.h"
+#include "uikit/look.h"
+#include "uikit/screen.h"
+
+namespace rlx {
+
+/// The last news page and the way to a newer one. Stands outside the row of screens. User-interface thread.
+class CNewsScreen : public CScreen {
+    Q_OBJECT
+
+public:
+    using OpenLink = std::function<void(const QUrl&)>;
+
+    /// `openLink` opens a link outside the program; it is only called after the user has agreed. References must
+    /// outlive the screen.
+    CNewsScreen(CNewsPage& page, const ITexts& texts, IMessageBoxes& boxes, const CLook& look, OpenLink openLink);
+
+    int TitleText() const override { return kTextScreenNews; }
+    QString IconName() const override { return QStringLiteral("news"); }
+    void Refresh() override;
+    bool GoBack() override;
+
+    /// Shows the page, which then counts as read.
+    void Entered() override;
+
+signals:
+    /// The user wants the newest page.
+    void FetchChosen();
+
+    /// The page was shown: the flags of the news have changed.
+    void PageShown();
+
+    /// The user wants to go back to where the page was called from.
+    void BackChosen();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void MakeActions();
+    void LayOut();
+    void FollowLink(const QUrl& link);
+    void TakeColours();
+
+    CNewsPage& m_page;
+    const ITexts& m_texts;
+    IMessageBoxes& m_boxes;
+    const CLook& m_look;
+    OpenLink m_openLink;
+    CNewsView* m_view;
+    QLabel* m_state;
+    QPushButton* m_fetch;
+};
+
+}  // namespace rlx

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QTextBrowser>
+#include <functional>
+
+#include "news/news_page.h"
+#include "news/news_zoom.h"
+#include "uikit/look.h"
+
+namespace rlx {
+
+/// Shows a page of HTML and nothing else: it loads no picture, no style sheet and no other page, and runs nothing. Two
+/// squares in the corner change the size of the text. User-interface thread.
+class CNewsView : public QTextBrowser, public INewsView {
+    Q_OBJECT
+
+public:
+    /// Gives the page that the view is sent to, as bytes.
+    using ReadPage = std::function<std::string()>;
+
+    CNewsView(const CLook& look, ReadPage readPage, QWidget* parent);
+
+    void ClearText() override;
+    void AddText(const std::u16string& html) override;
+    void EndOfSource() override;
+    void Navigate(const std::u16string& url) override;
+
+    int ZoomLevel() const { return m_zoom.Level(); }
+
+    /// As a tap on the plus square (`by` above 0) or on the minus square.
+    void StepZoom(int by);
+    void TakeColours();
+
+    QVariant loadResource(int type, const QUrl& name) override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    void Tap(const QPoint& point);
+    void ShowHtml(const QString& html);
+
+    const CLook& m_look;
+    const ReadPage m_readPage;
+    CNewsZoom m_zoom;
+    QString m_html;
+};
+
+}  // namespace rlx

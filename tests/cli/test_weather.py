@@ -1,0 +1,79 @@
+#!/usr/bin/env python3
+"""`rlx weather`, fed over HTTP by a server of the test's own."""
+
+import http.server
+import threading
+import unittest
+
+from rlx_program import RlxTest
+
+CITIES = ("2\nz;Amsterdam;Netherlands;4.9;52.4;1;1;88;2;298;3\n"
+          "z;Tokyo;Japan;139.7;35.7;9;0;0;0;0;0\n")
+NOW = "2026-11-22T21:10:05"
+REPLY = ("weather_1#\nplace_amsterdam_nl#\nsource_Open-Meteo#\nissued_2026-11-22T18:00Z#\n"
+         "2026-11-22_61;9.1;-4.0;4.2;75;14.5;230;81;08:14;17:01#\n2026-11-23_;;5;;;;;;;#\nend_2#\n")
+NO_NEWS = {"cityIndex": 1, "place": "Tokyo:Japan", "feedName": "tokyo_japan", "fetched": None, "issued": None,
+           "source": None, "stale": None, "days": []}
+DAY = {"date": "2026-11-22", "code": 61, "condition": "Light rain", "high": 9.1, "low": -4.0, "precipitation": 4.2,
+       "probability": 75, "windSpeed": 14.5, "windDirection": 230, "humidity": 81, "sunrise": "08:14", "sunset": "17:01"}
+NOTHING = dict.fromkeys(DAY) | {"date": "2026-11-23", "low": 5.0}
+
+
+class Server(http.server.BaseHTTPRequestHandler):
+    def do_POST(self):
+        self.server.asked.append(self.rfile.read(int(self.headers["Content-Length"])).decode("latin-1"))
+        body = self.server.reply.encode()
+        self.send_response(200)
+        for name, value in (("sessionId", "s."), ("ServerMSG", "1005"), ("Content-Type", "text/plain"), ("newsid", "0"),
+                            ("Content-Length", str(len(body)))):
+            self.send_header(name, value)
+        self.end_headers()
+        self.wfile.write(body)
+
+    def log_message(self, *_):
+        pass
+
+
+class Weather(RlxTest):
+    def setUp(self):
+        super().setUp()
+        self.cities(CITIES)
+        (self.home / "cities.wet").write_text("2\nAmsterdam;Netherlands;amsterdam_nl\nTokyo;Japan;tokyo_japan\n")
+        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Server)
+        self.server.asked, self.server.reply = [], REPLY
+        threading.Thread(target=self.server.serve_forever, daemon=True).start()
+        self.addCleanup(self.server.server_close)
+        self.addCleanup(self.server.shutdown)
+        (self.home / "adrs.cfg").write_text(f"http://127.0.0.1:{self.server.server_port}/feed*")
+
+    def weather(self, *words, now=NOW, messages=(), **expected):
+        asked = ["The connection <Loopback: Loopback> will be used."] if "update" in words else []
+        return self.answer("--yes", "weather", *words, now=now, messages=asked + list(messages), **expected)["places"]
+
+    def test_forecast_is_fetched_and_kept(self):
+        self.assertEqual(self.weather("tok"), [NO_NEWS])
+        fetched = self.weather("update", "ams")
+        self.assertIn("&jc=111&c='amsterdam_nl'&", self.server.asked[0])
+        place = {"cityIndex": 0, "place": "Amsterdam:Netherlands", "feedName": "amsterdam_nl",
+                 "fetched": "2026-11-22T20:10Z", "issued": "2026-11-22T18:00Z", "source": "Open-Meteo", "stale": False,
+                 "days": [DAY, NOTHING]}
+        self.assertEqual(fetched, [place])
+        self.assertEqual(self.weather("0", now="2026-11-24T09:00:00"), [place | {"stale": True}])
+        self.assertEqual([p["cityIndex"] for p in self.weather()], [0, 684, 756, 565])
+
+    def test_broken_reply_keeps_the_last_good_forecast(self):
+        good = self.weather("update", "ams")
+        self.server.reply = REPLY[:-8]
+        message = "The forecast received for Amsterdam cannot be read. The last good one is kept."
+        self.assertEqual(self.weather("update", "ams", status=1, messages=[message]), good)
+
+    def test_text_for_people(self):
+        self.weather("update", "ams")
+        done = self.run_rlx("weather", "ams", now=NOW)
+        lines = done.stdout.decode().splitlines()
+        self.assertEqual(lines[0], "Amsterdam: Forecast of 22/11/2026 18:00 UTC, Source: Open-Meteo")
+        self.assertEqual(lines[2].split(), ["23/11", "Mon", "–", "5", "°C", "–", "–", "–", "not", "available"])
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,101 @@
+#include "tools/tiptax/ui/tip_page.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "platform/fake/scripted_message_boxes.h"
+#include "platform/image/image_codec.h"
+#include "shell/resources.h"
+#include "support/memory_files.h"
+
+namespace rlx {
+namespace {
+
+class TipPage : public testing::Test {
+protected:
+    TipPage() {
+        m_page.resize(240, 230);
+        m_page.show();
+    }
+
+    template <typename Widget>
+    Widget& Find(const char* name) {
+        return *m_page.findChild<Widget*>(name);
+    }
+
+    /// As a person does: all selected, then key by key.
+    void Type(const char* field, const QString& text) {
+        Find<QLineEdit>(field).selectAll();
+        QTest::keyClicks(&Find<QLineEdit>(field), text);
+    }
+
+    QString Text(const char* label) { return Find<QLabel>(label).text(); }
+
+    test::CMemoryFiles m_files;
+    CResources m_resources;
+    CScriptedMessageBoxes m_boxes;
+    CImageCodec m_codec;
+    CLook m_look{m_files, m_codec};
+    CTipPage m_page{m_resources, m_boxes, m_look};
+};
+
+TEST_F(TipPage, ComputesAsOneTypes) {
+    EXPECT_EQ(Find<QLineEdit>("bill").text(), "0");
+    EXPECT_EQ(Text("firstAmount"), "= 0.00");
+    Type("bill", "100");
+    Type("firstRate", "15");
+    Type("secondRate", "8");
+    EXPECT_EQ(Text("firstAmount"), "= 15.00");
+    EXPECT_EQ(Text("secondAmount"), "= 8.00");
+    EXPECT_EQ(Text("total"), "123.00");
+    Find<QCheckBox>("firstAdded").click();
+    EXPECT_EQ(Text("total"), "108.00");
+    EXPECT_FALSE(Find<QLabel>("firstIncluded").isHidden());
+    EXPECT_TRUE(Find<QLabel>("secondIncluded").isHidden());
+    Find<QCheckBox>("secondAdded").click();
+    EXPECT_EQ(Text("total"), "100.00");
+    Type("bill", "12abc");
+    EXPECT_EQ(Text("total"), "12.00");
+    EXPECT_TRUE(m_boxes.shown.empty());
+}
+
+TEST_F(TipPage, TakesARefusedRateBackAndSaysSoOnce) {
+    Type("bill", "50");
+    Type("firstRate", "101");
+    ASSERT_EQ(m_boxes.shown.size(), 1U);
+    EXPECT_EQ(m_boxes.shown[0].text, u"Value must be between 0% and 100%");
+    EXPECT_EQ(Find<QLineEdit>("firstRate").text(), "10");
+    EXPECT_EQ(Text("total"), "55.00");
+    QTest::keyClick(&Find<QLineEdit>("firstRate"), Qt::Key_0);
+    EXPECT_EQ(Text("total"), "100.00");
+    Type("secondRate", "-1");
+    EXPECT_EQ(Find<QLineEdit>("secondRate").text(), "-");
+    EXPECT_EQ(m_boxes.shown.size(), 2U);
+}
+
+TEST_F(TipPage, SplitsToTheCent) {
+    Type("bill", "100");
+    EXPECT_EQ(Text("share"), "50.00");
+    Find<QToolButton>("more").click();
+    EXPECT_EQ(Text("share"), QStringLiteral("1 × 33.34 and 2 × 33.33"));
+    Find<QSpinBox>("people").setValue(1);
+    Find<QToolButton>("fewer").click();
+    EXPECT_EQ(Text("share"), "100.00");
+    Type("bill", "-5");
+    EXPECT_EQ(Text("share"), "This total cannot be split.");
+}
+
+TEST_F(TipPage, SelectsAllWhenEntered) {
+    m_page.activateWindow();
+    m_page.Entered();
+    QApplication::processEvents();
+    EXPECT_EQ(Find<QLineEdit>("bill").selectedText(), "0");
+    auto& rate = Find<QLineEdit>("firstRate");
+    QTest::mouseClick(&rate, Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_EQ(rate.selectedText(), "0");
+}
+
+}  // namespace
+}  // namespace rlx

@@ -1,0 +1,204 @@
+#include "weather/ui/weather_screen.h"
+
+#include <QProgressDialog>
+#include <QTest>
+
+#include "base/text.h"
+#include "platform/image/image_codec.h"
+#include "support/places_on_device.h"
+#include "weather/ui/weather_layout.h"
+
+namespace rlx {
+namespace {
+
+/// Six days of Amsterdam as issued on the 22nd; the fourth day lacks its values.
+std::u16string Reply(std::u16string_view source = u"Open-Meteo", std::u16string_view feedName = u"amsterdam_nl") {
+    return u"weather_1#place_" + std::u16string(feedName) + u"#source_" + std::u16string(source) +
+           u"#issued_2026-11-22T18:00Z#"
+           u"2026-11-21_3;8;2;0.0;5;14;230;81;08:14;17:01#"
+           u"2026-11-22_3;9.1;4.0;0.0;10;14.5;230;81;08:14;17:01#"
+           u"2026-11-23_61;10.6;-6.3;4.2;75;22.0;250;88;08:16;17:00#"
+           u"2026-11-24_95;12;5.5;12;90;31.3;;90;08:17;16:59#"
+           u"2026-11-25_;;;;;;;;;#"
+           u"2026-11-26_0;8;1;0;0;10;10;60;08:20;16:57#end_6#";
+}
+
+class WeatherScreen : public ::testing::Test {
+protected:
+    WeatherScreen() {
+        device.files.files["/app/cities.wet"] = "2\nAmsterdam;Netherlands;amsterdam_nl\nTokyo;Japan;tokyo_japan\n";
+        device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kWeatherTip, 2);
+        store.EnsureCreated();
+        screen.resize(480, 640);
+        screen.show();
+        screen.Entered();
+    }
+
+    void Fill(const std::u16string& reply) {
+        ASSERT_EQ(store.Save(u"Amsterdam:Netherlands", reply, {{2026, 11, 22}, 20, 0, 0, 0}).outcome,
+                  SaveOutcome::kSaved);
+        screen.Refresh();
+    }
+
+    template <typename Widget = QWidget>
+    Widget* Find(const char* name) {
+        auto* widget = screen.findChild<Widget*>(name);
+        EXPECT_TRUE(widget != nullptr) << name;
+        return widget;
+    }
+
+    std::string Card(int day) { return Find(qPrintable(QString("day%1").arg(day)))->accessibleName().toStdString(); }
+    std::string Details() { return Find("dayDetails")->accessibleDescription().toStdString(); }
+    std::string Origin() { return Find("origin")->accessibleDescription().toStdString(); }
+    void Click(const char* name) { QTest::mouseClick(Find(name), Qt::LeftButton); }
+
+    test::PlacesOnDevice device;
+    CImageCodec codec;
+    CLook look{device.files, codec};
+    CWeatherStore store{device.store, device.files, "/app/cities.wet"};
+    std::optional<CityIndex> choice;
+    std::vector<std::u16string> asked;
+    std::function<std::u16string(const std::u16string&, const std::function<bool()>&)> server;
+    CWeatherScreen screen{{device.cities, device.clock, device.settings, device.resources, device.boxes, look,
+                           device.files, store, "/app", [this](QWidget*, const QString&, CityIndex) { return choice; },
+                           [this](const std::u16string& feedName, const QSize&, const std::function<bool()>& goOn) {
+                               asked.push_back(feedName);
+                               return server ? server(feedName, goOn) : std::u16string();
+                           }}};
+};
+
+TEST_F(WeatherScreen, WithoutAForecastItOffersToFetchOne) {
+    EXPECT_FALSE(Find("day0")->isVisible());
+    EXPECT_EQ(Origin(), "\n");
+    server = [](const std::u16string& name, const auto&) { return name == u"amsterdam_nl" ? Reply() : u""; };
+    Click("updateNow");
+    EXPECT_EQ(asked, (std::vector<std::u16string>{u"amsterdam_nl", u"London", u"New York", u"Sydney"}));
+    EXPECT_TRUE(Find("day0")->isVisible());
+    EXPECT_FALSE(Find("updateNow")->isVisible());
+    ASSERT_EQ(device.boxes.shown.size(), 1U);  // the three others have no forecast
+}
+
+TEST_F(WeatherScreen, DaysOfTheCityFromTodayOnWithADashForWhatIsMissing) {
+    Fill(Reply());
+    EXPECT_EQ(Card(0), "Today, Overcast, High 9 °C, Low 4 °C, Chance of rain 10%");
+    EXPECT_EQ(Card(1), "Tomorrow, Light rain, High 11 °C, Low -6 °C, Chance of rain 75%");
+    EXPECT_EQ(Card(3), "25/11 Wed, not available, High –, Low –, Chance of rain –");
+    EXPECT_TRUE(Find("day4")->isVisible());
+    EXPECT_EQ(Origin(), "Forecast of 22/11/2026 18:00 UTC\nSource: Open-Meteo");
+    device.clock.Set({{2026, 11, 23}, 0, 10, 5, 0});
+    screen.Tick();
+    EXPECT_EQ(Card(0), "Today, Light rain, High 11 °C, Low -6 °C, Chance of rain 75%");
+    EXPECT_FALSE(Find("day4")->isVisible());  // four days are left
+}
+
+TEST_F(WeatherScreen, OldDaysAreNeverCalledTodayAndSaySo) {
+    Fill(Reply(u"Sample data"));
+    EXPECT_TRUE(Origin().starts_with("sample\n")) << Origin();
+    device.clock.Set({{2026, 11, 23}, 9, 0, 0, 0});
+    screen.Tick();
+    EXPECT_TRUE(Origin().starts_with("out of date\nsample\n")) << Origin();
+    EXPECT_TRUE(Card(0).starts_with("23/11 Mon, ")) << Card(0);
+    device.clock.Set({{2026, 12, 23}, 9, 0, 1, 0});
+    screen.Refresh();
+    EXPECT_TRUE(Card(0).starts_with("21/11 Sat, ")) << Card(0);
+}
+
+TEST_F(WeatherScreen, FahrenheitIsKept) {
+    Fill(Reply());
+    Click("unit");
+    EXPECT_EQ(Card(1), "Tomorrow, Light rain, High 51 °F, Low 21 °F, Chance of rain 75%");
+    EXPECT_EQ(device.settings.ReadDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kFahrenheit), 1U);
+    Click("unit");
+    EXPECT_TRUE(Card(1).find("11 °C") != std::string::npos) << Card(1);
+}
+
+TEST_F(WeatherScreen, DaysFollowEachOtherByKeySwipeAndButton) {
+    Fill(Reply());
+    Click("day1");
+    EXPECT_EQ(device.settings.ReadDword(RootOf(keys::kWeather), keys::kWeather, names::kDayByDay), 1U);
+    EXPECT_EQ(Details(),
+              "Tomorrow\nLight rain\nHigh: 11 °C\nLow: -6 °C\nChance of rain: 75%\nPrecipitation: 4.2 mm\n"
+              "Wind: 22 km/h WSW\nHumidity: 88%\nSunrise: 08:16\nSunset: 17:00");
+    QTest::keyClick(&screen, Qt::Key_Right);
+    EXPECT_TRUE(Details().starts_with("24/11 Tue\nThunderstorm\n")) << Details();
+    EXPECT_NE(Details().find("Wind: 31 km/h\n"), std::string::npos) << "no direction was told";
+    const QPoint middle = Find("dayDetails")->geometry().center();
+    QTest::mousePress(&screen, Qt::LeftButton, {}, middle);
+    QTest::mouseRelease(&screen, Qt::LeftButton, {}, middle - QPoint(80, 4));
+    EXPECT_EQ(Details().substr(0, 9), "25/11 Wed");
+    QTest::keyClick(&screen, Qt::Key_Right);
+    EXPECT_FALSE(Find("nextDay")->isEnabled());
+    QTest::keyClick(&screen, Qt::Key_Right);  // there is no further day
+    EXPECT_EQ(Details().substr(0, 9), "26/11 Thu");
+    Click("previousDay");
+    EXPECT_EQ(Details().substr(0, 9), "25/11 Wed");
+    EXPECT_TRUE(screen.GoBack());
+    EXPECT_TRUE(Find("day0")->isVisible());
+    EXPECT_FALSE(screen.GoBack());
+}
+
+TEST_F(WeatherScreen, EachPlaceHasACityOfItsOwn) {
+    EXPECT_EQ(Find<CLinkButton>("place2")->text(), "New York");
+    screen.ChangePlace(2);  // called off
+    EXPECT_EQ(Find<CLinkButton>("place2")->text(), "New York");
+    choice = 0;
+    Fill(Reply());
+    Click("place3");
+    EXPECT_FALSE(Find("day0")->isVisible());
+    QTest::keyClick(&screen, Qt::Key_F2);
+    EXPECT_EQ(Find<CLinkButton>("place3")->text(), "Amsterdam");
+    EXPECT_TRUE(Find("day0")->isVisible());
+    EXPECT_EQ(device.settings.ReadDword(RootOf(keys::kWeather), keys::kWeather, u"wetp4"), 0U);
+    EXPECT_EQ(device.settings.ReadDword(RootOf(keys::kWeather), keys::kWeather, names::kForecast), 3U);
+}
+
+TEST_F(WeatherScreen, CancelledUpdateKeepsWhatCameAndSaysNothing) {
+    server = [this](const std::u16string&, const std::function<bool()>& goOn) {
+        if (asked.size() == 1) return Reply();
+        screen.findChild<QProgressDialog*>("weatherProgress")->cancel();
+        EXPECT_FALSE(goOn());
+        return std::u16string();
+    };
+    Click("update");
+    EXPECT_EQ(asked.size(), 2U);
+    EXPECT_TRUE(Find("day0")->isVisible());
+    EXPECT_TRUE(device.boxes.shown.empty());
+}
+
+TEST_F(WeatherScreen, EachTipIsShownOnce) {
+    device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kWeatherTip, 0);
+    screen.Entered();
+    screen.Entered();
+    EXPECT_EQ(device.boxes.shown.size(), 1U);
+    Fill(Reply());
+    Click("day0");
+    Click("view");
+    Click("day0");
+    EXPECT_EQ(device.boxes.shown.size(), 2U);
+}
+
+TEST(WeatherLayout, PartsNeitherOverlapNorLeaveTheScreen) {
+    const QSize sizes[] = {{240, 245}, {276, 200}, {480, 560}, {640, 400}, {1180, 760}, {1800, 300}, {240, 1200}};
+    for (const QSize& size : sizes) {
+        const QRect area(QPoint(0, 0), size);
+        const WeatherLayout layout = LayOutWeather(area);
+        const DetailLayout detail = LayOutDetail(layout.body);
+        std::vector<QRect> common{layout.unit, layout.update, layout.origin};
+        common.insert(common.end(), layout.places.begin(), layout.places.end());
+        for (const QRect& spare : {layout.heading, layout.view})
+            if (!spare.isEmpty()) common.push_back(spare);
+        for (auto parts : {LayOutDays(layout.body, 5),
+                           std::vector{detail.previous, detail.name, detail.next, detail.details, detail.chart}}) {
+            parts.insert(parts.end(), common.begin(), common.end());
+            for (std::size_t i = 0; i < parts.size(); ++i) {
+                EXPECT_TRUE(area.contains(parts[i])) << size.width() << "x" << size.height() << " part " << i;
+                EXPECT_TRUE(parts[i].width() >= 24 && parts[i].height() >= 14) << size.width() << " part " << i;
+                for (std::size_t j = 0; j < i; ++j)
+                    EXPECT_FALSE(parts[i].intersects(parts[j])) << size.width() << " parts " << i << " and " << j;
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace rlx
