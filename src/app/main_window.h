@@ -19,7 +19,7 @@ namespace rlx {
 struct FrameColours {
     QColor bar;     ///< ground of title bar and screen row
     QColor text;    ///< on the bar
-    QColor chosen;  ///< marks the screen shown and fresh news
+    QColor chosen;  ///< marks the screen shown
 };
 
 /// The one window: title bar, the screen shown, the row of screens. It knows screens only as `CScreen`. User-interface

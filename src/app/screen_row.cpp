@@ -38,7 +38,14 @@ void CScreenRow::Add(const QString& iconName, const QString& title) {
 }
 
 void CScreenRow::SetCurrent(int index) {
-    if (QAbstractButton* button = m_buttons.button(index)) button->setChecked(true);
+    if (QAbstractButton* button = m_buttons.button(index)) {
+        button->setChecked(true);
+    } else if (QAbstractButton* last = m_buttons.checkedButton()) {
+        // A screen outside the row is shown.
+        m_buttons.setExclusive(false);
+        last->setChecked(false);
+        m_buttons.setExclusive(true);
+    }
 }
 
 void CScreenRow::SetColours(const QColor& ground, const QColor& text, const QColor& chosen) {

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kButtonSize = 30;
 constexpr int kIconSize = 20;
+constexpr double kDotRadius = 5;
 
 QToolButton* MakeButton(QWidget* parent, const char* name) {
     auto* button = new QToolButton(parent);
@@ -19,6 +20,16 @@ QToolButton* MakeButton(QWidget* parent, const char* name) {
     button->setIconSize({kIconSize, kIconSize});
     button->setFixedSize(kButtonSize, kButtonSize);
     return button;
+}
+
+/// A dot in the corner, with a ring of the ground around it: seen in every skin, and without telling colours apart.
+QPixmap WithDot(QPixmap icon, const QColor& dot, const QColor& ground) {
+    QPainter painter(&icon);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ground, 2));
+    painter.setBrush(dot);
+    painter.drawEllipse(QPointF(kIconSize - kDotRadius, kDotRadius), kDotRadius, kDotRadius);
+    return icon;
 }
 
 }  // namespace
@@ -58,10 +69,9 @@ void CTitleBar::SetNews(bool fresh, const QString& name) {
     PaintIcons();
 }
 
-void CTitleBar::SetColours(const QColor& ground, const QColor& text, const QColor& mark) {
+void CTitleBar::SetColours(const QColor& ground, const QColor& text) {
     m_ground = ground;
     m_text = text;
-    m_mark = mark;
     setStyleSheet(
         QStringLiteral(
             "QToolButton { border: none; border-radius: 8px; } QToolButton::menu-indicator { image: none; }"
@@ -73,7 +83,9 @@ void CTitleBar::SetColours(const QColor& ground, const QColor& text, const QColo
 
 void CTitleBar::PaintIcons() {
     m_menu->setIcon(TintedIcon("menu", m_text));
-    m_news->setIcon(TintedIcon("news", m_fresh ? m_mark : m_text));
+    m_news->setIcon(m_fresh
+                        ? QIcon(WithDot(TintedPixmap("news", m_text, kIconSize, devicePixelRatioF()), m_text, m_ground))
+                        : TintedIcon("news", m_text));
 }
 
 void CTitleBar::paintEvent(QPaintEvent* /*event*/) {

@@ -20,7 +20,7 @@ public:
 
     /// The button of the News page; `fresh` marks it.
     void SetNews(bool fresh, const QString& name);
-    void SetColours(const QColor& ground, const QColor& text, const QColor& mark);
+    void SetColours(const QColor& ground, const QColor& text);
 
 signals:
     void NewsChosen();
@@ -37,7 +37,6 @@ private:
     bool m_fresh = false;
     QColor m_ground;
     QColor m_text;
-    QColor m_mark;
 };
 
 }  // namespace rlx

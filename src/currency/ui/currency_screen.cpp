@@ -13,41 +13,50 @@ namespace rlx {
 
 namespace {
 
-constexpr int kMargin = 4;
-constexpr int kGap = 4;
-constexpr int kLeastRow = 22;
+constexpr int kSmallGap = 4;
+constexpr int kLargeGap = 12;
+constexpr int kLeastRow = 21;
 constexpr int kMostRow = 44;
 constexpr int kRowForRate = 34;
 constexpr int kWidest = 640;
 constexpr int kButtonHeight = 32;
+constexpr int kLowButtonHeight = 28;
 constexpr int kButtonWidth = 84;
 constexpr int kLowScreen = 244;
+constexpr int kTallScreen = 420;
+constexpr int kFooterHeight = 44;
+constexpr int kTallFooterHeight = 62;
 constexpr int kFooterFont = 11;
 constexpr int kTallFooterFont = 13;
-constexpr int kTallScreen = 420;
 
-/// Where things stand on a screen of a size. A low one has its labels side by side.
+/// Where things stand on a screen of a size, in pixels. A low one has its labels side by side.
 struct ScreenLayout {
     int left = 0;
     int width = 0;
-    int rowHeight = 0;
+    int gap = 0;  ///< around and between the panels
+    CPairPanel::Form panel;
     int footerHeight = 0;
-    bool withRate = false;
+    int buttonHeight = 0;
+    int font = 0;  ///< of the footer
     bool low = false;
 };
 
 ScreenLayout LayOutScreen(const QSize& size) {
+    const bool tall = size.height() >= kTallScreen;
     ScreenLayout layout;
     layout.low = size.height() < kLowScreen && size.width() > size.height();
-    layout.width = std::min(size.width() - 2 * kMargin, kWidest);
+    layout.gap = tall ? kLargeGap : kSmallGap;
+    layout.font = tall ? kTallFooterFont : kFooterFont;
+    layout.buttonHeight = layout.low ? kLowButtonHeight : kButtonHeight;
+    layout.footerHeight = layout.low ? kLowButtonHeight : (tall ? kTallFooterHeight : kFooterHeight);
+    layout.width = std::min(size.width() - 2 * layout.gap, kWidest);
     layout.left = (size.width() - layout.width) / 2;
-    layout.footerHeight = layout.low ? kButtonHeight : (size.height() < kTallScreen ? 44 : 62);
-    const int pairs = static_cast<int>(kConverterPairs);
-    const int room = size.height() - layout.footerHeight - 2 * kMargin - pairs * kGap;
-    const int withoutFrames = room / pairs - CPairPanel::HeightFor(0, false);
-    const int withRate = room / pairs - CPairPanel::HeightFor(0, true);
-    layout.withRate = withRate / 2 >= kRowForRate;
-    layout.rowHeight = std::clamp((layout.withRate ? withRate : withoutFrames) / 2, kLeastRow, kMostRow);
+    layout.panel.padding = tall ? kLargeGap - 4 : kSmallGap;
+    const auto pairs = static_cast<int>(kConverterPairs);
+    const int room = (size.height() - layout.footerHeight - (pairs + 1) * layout.gap) / pairs;
+    layout.panel.withRate = true;
+    layout.panel.withRate = (room - layout.panel.Height()) / 2 >= kRowForRate;
+    layout.panel.rowHeight = std::clamp((room - layout.panel.Height()) / 2, kLeastRow, kMostRow);
     return layout;
 }
 
@@ -140,7 +149,7 @@ void CCurrencyScreen::ShowOrigin() {
     m_origin->setText(ToQString(words));
     m_origin->setToolTip(m_origin->text());
     m_origin->setVisible(!m_currencies.empty());
-    resizeEvent(nullptr);
+    Arrange();
 }
 
 void CCurrencyScreen::TakeColours() {
@@ -168,31 +177,41 @@ void CCurrencyScreen::paintEvent(QPaintEvent* /*event*/) {
     }
 }
 
+/// The label's form depends on how the screen lies.
 void CCurrencyScreen::resizeEvent(QResizeEvent* /*event*/) {
+    ShowOrigin();
+}
+
+void CCurrencyScreen::Arrange() {
     const ScreenLayout layout = LayOutScreen(size());
-    int top = kMargin;
+    int top = layout.gap;
     for (CPairPanel* panel : m_panels) {
-        panel->Arrange(layout.rowHeight, layout.withRate);
+        panel->Arrange(layout.panel);
         panel->setGeometry(layout.left, top, layout.width, panel->height());
-        top += panel->height() + kGap;
+        top += panel->height() + layout.gap;
     }
-    m_empty->setGeometry(layout.left, kMargin, layout.width, std::max(0, top - 2 * kGap));
-    QFont footerFont = font();
-    footerFont.setPixelSize(height() < kTallScreen ? kFooterFont : kTallFooterFont);
-    m_updateLabel->setFont(footerFont);
-    m_origin->setFont(footerFont);
+    m_empty->setGeometry(layout.left, layout.gap, layout.width, top - 2 * layout.gap);
     const QRect footer(layout.left, top, layout.width, layout.footerHeight);
-    m_update->setGeometry(footer.right() + 1 - kButtonWidth, footer.top() + (footer.height() - kButtonHeight) / 2,
-                          kButtonWidth, kButtonHeight);
-    QRect words = footer.adjusted(0, 0, -kButtonWidth - kGap, 0);
+    m_update->setGeometry(footer.right() + 1 - kButtonWidth, footer.top() + (footer.height() - layout.buttonHeight) / 2,
+                          kButtonWidth, layout.buttonHeight);
+    QFont small = font();
+    small.setPixelSize(layout.font);
+    m_updateLabel->setFont(small);
+    m_origin->setFont(small);
+    ArrangeWords(footer.adjusted(0, 0, -kButtonWidth - kSmallGap, 0), layout.low);
+}
+
+/// The update label above the origin, or left of it.
+void CCurrencyScreen::ArrangeWords(QRect words, bool sideBySide) {
     if (!m_updateLabel->text().isEmpty()) {
+        const QFontMetrics metrics = m_updateLabel->fontMetrics();
+        const QSize wanted = metrics.size(0, m_updateLabel->text());
         QRect label = words;
-        if (layout.low) {
-            label.setWidth(m_updateLabel->fontMetrics().horizontalAdvance(m_updateLabel->text()) + kGap);
-            words.setLeft(label.right() + kGap);
+        if (sideBySide) {
+            label.setWidth(wanted.width() + kSmallGap);
+            words.setLeft(label.right() + kSmallGap);
         } else {
-            const auto lines = static_cast<int>(m_updateLabel->text().count('\n')) + 1;
-            label.setHeight(m_updateLabel->fontMetrics().height() * lines);
+            label.setHeight(wanted.height());
             words.setTop(label.bottom() + 1);
         }
         m_updateLabel->setGeometry(label);

@@ -54,6 +54,8 @@ protected:
 private:
     void MakeFooter();
     void ShowOrigin();
+    void Arrange();
+    void ArrangeWords(QRect words, bool sideBySide);
     void TakeColours();
 
     Source m_source;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QGridLayout>
+#include <QPainter>
 #include <QToolTip>
 #include <algorithm>
 
@@ -17,7 +18,7 @@ namespace rlx {
 
 namespace {
 
-constexpr int kMargin = 4;
+constexpr double kRadius = 8;
 constexpr int kGap = 3;
 constexpr int kRateHeight = 18;
 constexpr int kWidthForNames = 400;
@@ -39,9 +40,7 @@ CPairPanel::CPairPanel(const ITexts& texts, const CLook& look, QWidget* parent)
       m_rate(new QLabel(this)),
       m_swap(MakeButton("swap", kTextSwapCurrencies)),
       m_copy(MakeButton("copy", kTextCopyResult)) {
-    setAutoFillBackground(true);
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     grid->setSpacing(kGap);
     for (int side = 0; side < kSides; ++side) {
         MakeSide(side);
@@ -195,11 +194,13 @@ void CPairPanel::Copy() {
     QToolTip::showText(m_copy->mapToGlobal(QPoint(0, -m_copy->height())), ToQString(m_texts.Text(kTextCopied)), m_copy);
 }
 
-int CPairPanel::HeightFor(int rowHeight, bool withRate) {
-    return 2 * rowHeight + kGap + 2 * kMargin + (withRate ? kRateHeight + kGap : 0);
+int CPairPanel::Form::Height() const {
+    return 2 * rowHeight + kGap + 2 * padding + (withRate ? kRateHeight + kGap : 0);
 }
 
-void CPairPanel::Arrange(int rowHeight, bool withRate) {
+void CPairPanel::Arrange(const Form& form) {
+    const int rowHeight = form.rowHeight;
+    layout()->setContentsMargins(form.padding, form.padding, form.padding, form.padding);
     QFont amountFont = font();
     amountFont.setPixelSize(std::clamp(rowHeight / 2, kSmallestFont, kLargestFont));
     for (int side = 0; side < kSides; ++side) {
@@ -216,15 +217,14 @@ void CPairPanel::Arrange(int rowHeight, bool withRate) {
     rateFont.setPixelSize(kSmallestFont + 1);
     m_rate->setFont(rateFont);
     m_rate->setFixedHeight(kRateHeight);
-    m_rate->setVisible(withRate);
-    setFixedHeight(HeightFor(rowHeight, withRate));
+    m_rate->setVisible(form.withRate);
+    setFixedHeight(form.Height());
 }
 
 void CPairPanel::TakeColours() {
     const QColor text = m_look.Colour(SkinKey::kCurrencySTC);
     const QColor panel = m_look.Colour(SkinKey::kCurrencyPanC);
     QPalette palette = PagePalette(m_look, {panel, text, m_look.Colour(SkinKey::kCurrencyPBC), text});
-    palette.setColor(QPalette::Window, panel);
     setPalette(palette);
     palette.setColor(QPalette::Base, m_look.Colour(SkinKey::kCurrencyPCEC));
     palette.setColor(QPalette::Text, m_look.Colour(SkinKey::kCurrencySumC));
@@ -232,6 +232,14 @@ void CPairPanel::TakeColours() {
         amount->setPalette(palette);
     m_swap->setIcon(TintedIcon("swap", text));
     m_copy->setIcon(TintedIcon("copy", text));
+}
+
+void CPairPanel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_look.Colour(SkinKey::kCurrencyPanC));
+    painter.drawRoundedRect(rect(), kRadius, kRadius);
 }
 
 void CPairPanel::resizeEvent(QResizeEvent* /*event*/) {

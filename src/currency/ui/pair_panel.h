@@ -27,18 +27,25 @@ public:
     void SetCurrencies(const CurrencyList& currencies, const CurrencyPair& pair);
     CurrencyPair Pair() const;
 
-    /// Lays the panel out with rows of that height; takes the colours of the look.
-    void Arrange(int rowHeight, bool withRate);
-    void TakeColours();
+    /// How a panel lies, in pixels.
+    struct Form {
+        int rowHeight = 0;
+        int padding = 0;        ///< between the frame and what is in it
+        bool withRate = false;  ///< a line that tells the rate
 
-    /// Height of a panel in pixels.
-    static int HeightFor(int rowHeight, bool withRate);
+        int Height() const;
+    };
+    void Arrange(const Form& form);
+
+    /// Takes the colours of the look.
+    void TakeColours();
 
 signals:
     /// The user chose another currency or swapped the two.
     void PairChanged();
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:

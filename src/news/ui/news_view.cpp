@@ -62,8 +62,9 @@ void CNewsView::ShowHtml(const QString& html) {
     document()->rootFrame()->setFrameFormat(format);
 }
 
+/// Something empty, because the document would read a file itself when it is given nothing.
 QVariant CNewsView::loadResource(int /*type*/, const QUrl& /*name*/) {
-    return {};
+    return QByteArray();
 }
 
 void CNewsView::TakeColours() {
