@@ -11,7 +11,6 @@
 #include "shell/program_paths.h"
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
-#include "skins/skin_loader.h"
 #include "uikit/qt_text.h"
 #include "uikit/template_dialog.h"
 
@@ -34,10 +33,12 @@ CApplication::CApplication(const WindowOptions& options)
     OpenFolder();
     m_window = std::make_unique<CMainWindow>(m_clock, m_resources);
     m_windowBoxes.SetOwner(m_window.get());
+    m_skins = std::make_unique<CSkinCommands>(SkinPorts{m_files, m_codec, m_resources, m_boxes}, m_folder->Root(),
+                                              *m_settings, m_look, *m_window);
     MakeScreens();
     MakeCommands();
     connect(&m_look, &CLook::Changed, this, &CApplication::ApplyLook);
-    LoadSkin();
+    m_skins->Load();
     RestoreScreen();
 }
 
@@ -95,6 +96,8 @@ void CApplication::MakeCommands() {
         .Add(kCommandFullScreen, this,
              [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); })
         ->setShortcut(QKeySequence::FullScreen);
+    m_commands.Add(kCommandChooseSkin, this, [this] { m_skins->Choose(); });
+    m_commands.Add(kCommandEditSkin, this, [this] { m_skins->Edit(); });
     m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });
     m_commands.Add(kCommandAbout, this, [this] { ShowAbout(); });
     m_commands.Add(kCommandExit, this, [this] { m_window->close(); })->setShortcut(QKeySequence::Quit);
@@ -124,14 +127,6 @@ void CApplication::RestoreScreen() {
 }
 
 /// Every screen paints anew when the look changes; dialogs and the frame take the palette.
-void CApplication::LoadSkin() {
-    const auto write = [this](std::u16string_view setting) {
-        m_settings->WriteString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kSkin, setting);
-    };
-    CSkinLoader loader(m_files, m_folder->Root(), m_resources, m_boxes, write);
-    m_look.SetSkin(loader.Load(m_settings->ReadString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kSkin)));
-}
-
 void CApplication::ApplyLook() {
     QApplication::setPalette(m_look.Palette());
     m_window->SetColours({m_look.Bar(), m_look.PanelText(), m_look.Accent()});

@@ -7,6 +7,7 @@
 
 #include "app/main_window.h"
 #include "app/silent_message_boxes.h"
+#include "app/skin_commands.h"
 #include "base/calendar.h"
 #include "clocks/ui/clocks_screen.h"
 #include "places/city_database.h"
@@ -55,7 +56,6 @@ private:
     void MakeTools();
     void MakeCommands();
     void RestoreScreen();
-    void LoadSkin();
     void ApplyLook();
     void UpdateChecks();
     void ToggleSetting(std::u16string_view key, std::u16string_view name);
@@ -80,6 +80,7 @@ private:
     std::optional<CCityDatabase> m_cities;
     CCommandTable m_commands;
     std::unique_ptr<CMainWindow> m_window;
+    std::unique_ptr<CSkinCommands> m_skins;
     CClocksScreen* m_clocksScreen = nullptr;  ///< owned by the window
     CToolsScreen* m_toolsScreen = nullptr;    ///< owned by the window
 };

@@ -16,6 +16,10 @@ enum DialogId : int {
     kDialogCredits = 326,
     kDialogAddItem = 327,     // Packing List > New item
     kDialogAddFromAll = 328,  // Packing List > Add/Remove item(s)
+    kDialogChooseSkin = 330,
+    kDialogEditSkin = 331,
+    kDialogPickColour = 332,    // its title comes from the string table
+    kDialogPickSkinFile = 333,  // a picture or a set of icons of a skin; its title comes from the string table
 };
 
 enum ControlId : int {
@@ -58,6 +62,14 @@ enum ControlId : int {
     kControlFromItems = 1100,
     kControlToLists = 1101,
     kControlToCategories = 1102,
+    kControlSkinList = 1200,
+    kControlSkinFolder = 1201,
+    kControlSkinBrowse = 1202,
+    kControlSkinKeys = 1210,
+    kControlSkinChange = 1211,
+    kControlSkinReset = 1212,
+    kControlColourText = 1220,
+    kControlSkinFileList = 1230,
 };
 
 }  // namespace rlx
