@@ -90,7 +90,7 @@ void CSkinChooser::AddRow(const SkinEntry& skin) {
     item->setToolTip((reasons << QString::fromStdString(skin.file.string())).join('\n'));
     if (auto text = ReadSkinText(m_ports.files, skin.file)) {
         const CSkin look(*std::move(text), skin.file.parent_path());
-        item->setIcon(SkinPreview(m_ports.files, m_ports.codec, look, kPreview, devicePixelRatioF()));
+        item->setIcon(PlainIcon(SkinPreview(m_ports.files, m_ports.codec, look, kPreview, devicePixelRatioF())));
     }
 }
 

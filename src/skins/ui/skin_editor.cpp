@@ -78,7 +78,8 @@ void CSkinEditor::SetUpKeys() {
     m_keys->setModel(&m_model);
     m_keys->setHeaderHidden(true);
     m_keys->setRootIsDecorated(true);
-    m_keys->setIndentation(14);
+    m_keys->setIndentation(12);
+    m_keys->setIconSize({18, 18});
     m_keys->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_keys->setExpandsOnDoubleClick(true);
     m_keys->setTextElideMode(Qt::ElideRight);
@@ -111,7 +112,7 @@ std::optional<SkinKey> CSkinEditor::Selected() const {
     return m_keys == nullptr ? std::nullopt : CSkinKeyModel::KeyAt(m_keys->currentIndex());
 }
 
-/// On a narrow screen the panel moves below the keys.
+/// On a narrow screen the panel moves below the keys, and names come before values.
 void CSkinEditor::resizeEvent(QResizeEvent* event) {
     CTemplateDialog::resizeEvent(event);
     if (m_row == nullptr) return;
@@ -120,6 +121,8 @@ void CSkinEditor::resizeEvent(QResizeEvent* event) {
     m_row->setStretch(1, beside ? 90 : 0);
     m_panel->setMinimumHeight(beside ? 64 : kPanelHeight);
     m_panel->setMaximumHeight(beside ? QWIDGETSIZE_MAX : kPanelHeight);
+    m_panel->setMaximumWidth(width() >= kSideBySide || !beside ? QWIDGETSIZE_MAX : width() / 4);
+    m_keys->setColumnHidden(1, width() < kSideBySide);
 }
 
 void CSkinEditor::showEvent(QShowEvent* event) {

@@ -1,6 +1,7 @@
 #include "skins/ui/skin_file_picker.h"
 
 #include "shell/control_ids.h"
+#include "skins/ui/skin_preview.h"
 #include "uikit/bitmap_image.h"
 
 namespace rlx {
@@ -44,7 +45,7 @@ CSkinFilePicker::CSkinFilePicker(const SkinPorts& ports, const QString& title,
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     for (const SkinFileChoice& choice : choices) {
         auto* item = new QListWidgetItem(choice.name, m_list);
-        if (!choice.picture.empty()) item->setIcon(ViewOfFile(ports, choice.picture));
+        if (!choice.picture.empty()) item->setIcon(PlainIcon(ViewOfFile(ports, choice.picture)));
     }
     m_list->setCurrentRow(current);
     connect(m_list, &QListWidget::itemDoubleClicked, this, &QDialog::accept);

@@ -14,7 +14,8 @@ namespace rlx {
 namespace {
 
 constexpr int kKeyRole = Qt::UserRole + 1;
-constexpr int kSwatch = 20;
+constexpr int kSwatch = 18;
+constexpr QSize kRow(40, 28);
 
 constexpr int TextOf(SkinKey key) {
     return kTextSkinKeyGeneralTBC + static_cast<int>(key) - static_cast<int>(SkinKey::kGeneralTBC);
@@ -49,6 +50,7 @@ CSkinKeyModel::CSkinKeyModel(const CSkinDraft& draft, const ITexts& texts, QObje
         if (shown != row.section) {
             shown = row.section;
             section = new QStandardItem(ToQString(texts.Text(TextOf(row.section))));
+            section->setSizeHint(kRow);
             section->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
             appendRow({section, new QStandardItem});
         }
@@ -64,6 +66,7 @@ void CSkinKeyModel::AddKey(QStandardItem* section, const SkinKeyRow& row) {
         const bool isThere = m_draft.Original().Value(row.key) != kSkinMissing;
         item->setFlags(isThere ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
     }
+    name->setSizeHint(kRow);
     value->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     section->appendRow({name, value});
 }
@@ -94,12 +97,13 @@ void CSkinKeyModel::RefreshKey(SkinKey key, const CSkin& skin, const QPalette& p
     const auto stored = skin.Value(key);
     if (stored == kSkinMissing) return value->setText(ToQString(m_texts.Text(kTextSkinNoLine)));
     value->setText(ValueText(key, skin, m_texts));
+    name->setToolTip(name->text() + ": " + value->text());
     QFont font = name->font();
     font.setBold(stored != m_draft.Original().Value(key));
     name->setFont(font);
     if (!IsColour(RowOf(key).kind)) return;
     const QColor colour = QColor::fromRgb(PixelOfColour(skin.Colour(key)));
-    name->setIcon(ColourSwatch(colour, palette.color(QPalette::WindowText), kSwatch, pixelRatio));
+    name->setIcon(PlainIcon(ColourSwatch(colour, palette.color(QPalette::WindowText), kSwatch, pixelRatio)));
 }
 
 }  // namespace rlx

@@ -118,6 +118,12 @@ QPixmap SkinPreview(IFileSystem& files, const IImageCodec& codec, const CSkin& s
     return pixmap;
 }
 
+QIcon PlainIcon(const QPixmap& pixmap) {
+    QIcon icon(pixmap);
+    icon.addPixmap(pixmap, QIcon::Selected);
+    return icon;
+}
+
 QPixmap ColourSwatch(const QColor& colour, const QColor& rim, int size, qreal pixelRatio) {
     const int pixels = qMax(1, qRound(size * pixelRatio));
     QPixmap pixmap(pixels, pixels);
