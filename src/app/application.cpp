@@ -11,6 +11,11 @@
 #include "shell/program_paths.h"
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
+#include "tools/clothing/ui/clothing_tool.h"
+#include "tools/converter/ui/converter_tool.h"
+#include "tools/dialing/ui/dialing_tool.h"
+#include "tools/packing/ui/packing_page.h"
+#include "tools/tiptax/ui/tip_page.h"
 #include "uikit/qt_text.h"
 #include "uikit/template_dialog.h"
 
@@ -83,6 +88,11 @@ void CApplication::MakeScreens() {
 
 void CApplication::MakeTools() {
     m_toolsScreen = new CToolsScreen(*m_settings, m_resources, m_look);
+    m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), m_resources, m_boxes, m_look));
+    m_toolsScreen->AddPage(new CDialingTool(m_resources, m_look));
+    m_toolsScreen->AddPage(new CClothingTool(m_resources, m_look));
+    m_toolsScreen->AddPage(new CPackingPage(m_files, m_folder->Root(), m_resources, m_boxes, m_look));
+    m_toolsScreen->AddPage(new CTipPage(m_resources, m_boxes, m_look));
     m_window->AddScreen(m_toolsScreen);
 }
 

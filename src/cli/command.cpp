@@ -25,4 +25,14 @@ CLI::Option* AddInteger(CLI::App& app, const std::string& name, IntegerRange ran
     return app.add_option_function<std::string>(name, read, help)->type_name("NUMBER");
 }
 
+CLI::Option* AddInstant(CLI::App& app, const std::string& name, std::function<void(const DateTime&)> take,
+                        const std::string& help) {
+    const auto read = [name, take = std::move(take)](const std::string& word) {
+        const auto time = ParseInstant(word);
+        if (!time) throw CLI::ValidationError(name, "\"" + word + "\" is not YYYY-MM-DDTHH:MM:SS");
+        take(*time);
+    };
+    return app.add_option_function<std::string>(name, read, help)->type_name("TIME");
+}
+
 }  // namespace rlx::cli

@@ -42,4 +42,8 @@ struct IntegerRange {
 CLI::Option* AddInteger(CLI::App& app, const std::string& name, IntegerRange range,
                         std::function<void(std::int64_t)> take, const std::string& help);
 
+/// Adds an option that is a date and time of day, as `ParseInstant` reads it.
+CLI::Option* AddInstant(CLI::App& app, const std::string& name, std::function<void(const DateTime&)> take,
+                        const std::string& help);
+
 }  // namespace rlx::cli

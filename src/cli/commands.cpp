@@ -9,11 +9,17 @@ std::span<const Command> Commands() {
         Command{"clocks", "the home clock and the four others", DeclareClocks},
         Command{"city", "cities: show, list, find, rebuild", DeclareCity},
         Command{"time", "local time and date of a city", DeclareTime},
+        Command{"sun", "sunrise, sunset and length of the day of a city", DeclareSun},
+        Command{"sky", "where the sun stands at an instant", DeclareSky},
+        Command{"map", "the night side of the world map", DeclareMap},
         Command{"settings", "the device's settings: get, set, list", DeclareSettings},
         Command{"skin", "skins: show, check, list, use", DeclareSkin},
         Command{"lang", "languages and their texts", DeclareLang},
         Command{"tip", "tip and tax on a bill", DeclareTip},
         Command{"pack", "packing lists: show, add, tick, delete", DeclarePack},
+        Command{"feed", "the feed server: string, post", DeclareFeed},
+        Command{"rates", "currency rates: update, convert", DeclareRates},
+        Command{"news", "the news page: fetch, show", DeclareNews},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;

@@ -24,7 +24,10 @@ struct GlobalOptions {
 /// "2026-11-22T21:03:04" (the seconds may be left out); nothing when it is not a date and time.
 std::optional<DateTime> ParseDateTime(const std::string& text);
 
-/// "2026-11-22"; nothing when it is not a date.
+/// The same with leading zeros left out where one likes: "2026-1-5T7:5:0".
+std::optional<DateTime> ParseInstant(const std::string& text);
+
+/// "2026-11-22" or "2026-1-5"; nothing when it is not a date.
 std::optional<Date> ParseDate(const std::string& text);
 
 }  // namespace rlx::cli

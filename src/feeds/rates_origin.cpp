@@ -1,28 +1,23 @@
 #include "feeds/rates_origin.h"
 
 #include "feeds/iso_day.h"
-#include "feeds/rates_list.h"
 #include "shell/registry_store.h"
 #include "shell/setting_names.h"
 
 namespace rlx {
 
-namespace {
-
-constexpr std::int64_t kFreshDays = 7;
-
-}  // namespace
-
-RatesOrigin OriginOfRates(IRegistry& registry, IFileSystem& files, const std::filesystem::path& applicationFolder) {
+RatesOrigin OriginOfRates(IRegistry& registry, const std::optional<Date>& shippedDate) {
     CRegistryStore settings(registry);
-    const std::u16string day = settings.ReadString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesDate);
-    const std::optional<Date> updated = ParseIsoDay(day);
-    if (!updated) return {ShippedRatesDate(files, applicationFolder), {}};
+    const auto updated =
+        ParseIsoDay(settings.ReadString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesDate));
+    if (!updated) return {shippedDate, {}};
     return {updated, settings.ReadString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesSource)};
 }
 
-bool AreRatesOld(const RatesOrigin& origin, const Date& today) {
-    return !origin.date || DayNumber(today) - DayNumber(*origin.date) > kFreshDays;
+bool AreRatesStale(const std::optional<Date>& rates, const Date& today) {
+    if (!rates) return true;
+    const std::int64_t age = DayNumber(today) - DayNumber(*rates);
+    return age > kRatesStaleAfterDays || age < -1;
 }
 
 }  // namespace rlx

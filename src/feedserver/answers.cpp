@@ -4,18 +4,6 @@
 
 namespace rlx {
 
-namespace {
-
-enum ServerCode {
-    kInvalidRequest = 1001,
-    kServerError = 1004,
-    kGood = 1005,
-    kCityUnknown = 1006,
-    kNothingNewer = 1007
-};
-
-}  // namespace
-
 std::shared_ptr<const Knowledge> CKnowledgeBoard::Get() const {
     const std::lock_guard lock(m_mutex);
     return m_knowledge;

@@ -12,6 +12,15 @@
 
 namespace rlx {
 
+/// Codes of the protocol.
+enum ServerCode {
+    kInvalidRequest = 1001,
+    kServerError = 1004,
+    kGood = 1005,
+    kCityUnknown = 1006,
+    kNothingNewer = 1007
+};
+
 /// All that the server knows at a moment. Never changed once it is published.
 struct Knowledge {
     std::map<std::string, double> rates;  ///< units per US dollar, the newest that is known of each currency
@@ -33,11 +42,12 @@ private:
 
 /// What goes back to a client.
 struct FeedAnswer {
-    int code = 1001;     ///< of the protocol
-    std::string body;    ///< only with 1005
-    std::string newsId;  ///< of the latest page; "0" when there is none
+    int code = kInvalidRequest;  ///< of the protocol
+    std::string body;            ///< with 1005, and of an unknown city with 1006
+    std::string newsId;          ///< of the latest page; "0" when there is none
 };
 
+/// The weather is not part of the knowledge: every city is unknown here.
 FeedAnswer AnswerQuestion(const FeedQuestion& question, const Knowledge& knowledge);
 
 }  // namespace rlx

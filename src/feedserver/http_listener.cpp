@@ -8,6 +8,9 @@
 #include <cerrno>
 #include <chrono>
 #include <cstring>
+#include <map>
+#include <memory>
+#include <mutex>
 #include <new>
 #include <utility>
 
@@ -23,6 +26,7 @@ namespace {
 struct Incoming {
     std::string body;
     bool tooLarge = false;
+    bool hasWaited = false;  ///< for a source; it is answered now, whatever there is
     std::chrono::steady_clock::time_point begun = std::chrono::steady_clock::now();
 };
 
@@ -55,16 +59,16 @@ Outgoing Plain(unsigned status, std::string body) {
     return {status, std::move(body), {{"Content-Type", "text/plain; charset=utf-8"}}};
 }
 
-Outgoing Health(const Knowledge& knowledge) {
+Outgoing Health(const Knowledge& knowledge, const CWeatherSource* weather) {
     std::string body = "rates " + std::to_string(knowledge.rates.size());
     if (knowledge.ratesDate) body += " of " + Narrow(IsoDay(*knowledge.ratesDate)) + " from " + knowledge.ratesSource;
     body += "\nnews " + (knowledge.news ? knowledge.news->id : std::string("none")) + "\n";
+    if (weather != nullptr) body += weather->Health() + "\n";
     return Plain(knowledge.rates.empty() ? 503 : 200, std::move(body));
 }
 
-Outgoing Feed(MHD_Connection* connection, const std::string& body, const Knowledge& knowledge) {
-    const FeedAnswer answer = AnswerQuestion(ParseFeedQuestion(body), knowledge);
-    Outgoing out{200, answer.body, {}, answer.code};
+Outgoing Feed(MHD_Connection* connection, FeedAnswer answer) {
+    Outgoing out{200, std::move(answer.body), {}, answer.code};
     // Clients find these by their place: the header behind the code begins with a capital C.
     out.headers = {{"sessionId", SessionOf(connection) + "."},
                    {"ServerMSG", std::to_string(answer.code)},
@@ -107,14 +111,50 @@ bool SocketAddressOf(const ListenAddress& address, sockaddr_storage& storage) {
     return true;
 }
 
+/// The connections that wait for a source. Those who wake them may outlive the listener, so it is shared with them.
+class CSleepers {
+public:
+    /// Puts a connection to sleep unless `ask` says no. What `ask` begins can wake it only after that. False: it is
+    /// awake.
+    bool Sleep(MHD_Connection* connection, const std::function<bool(std::uint64_t)>& ask) {
+        const std::lock_guard lock(m_mutex);
+        if (m_closed || !ask(m_next)) return false;
+        MHD_suspend_connection(connection);
+        m_asleep.emplace(m_next++, connection);
+        return true;
+    }
+
+    void Wake(std::uint64_t number) {
+        const std::lock_guard lock(m_mutex);
+        if (const auto found = m_asleep.extract(number)) MHD_resume_connection(found.mapped());
+    }
+
+    /// Wakes all and lets no other fall asleep.
+    void Close() {
+        const std::lock_guard lock(m_mutex);
+        m_closed = true;
+        for (const auto& [number, connection] : m_asleep)
+            MHD_resume_connection(connection);
+        m_asleep.clear();
+    }
+
+private:
+    std::mutex m_mutex;
+    std::map<std::uint64_t, MHD_Connection*> m_asleep;
+    std::uint64_t m_next = 0;
+    bool m_closed = false;
+};
+
 }  // namespace
 
 class CHttpListener::CService {
 public:
-    CService(const CKnowledgeBoard& board, ListenerLimits limits, Log log)
-        : m_board(board), m_limits(limits), m_log(std::move(log)) {}
+    CService(const CKnowledgeBoard& board, ListenerLimits limits, Log log, CWeatherSource* weather)
+        : m_board(board), m_limits(limits), m_log(std::move(log)), m_weather(weather) {}
 
     ~CService() {
+        // A daemon must not be stopped while connections sleep.
+        m_sleepers->Close();
         if (m_daemon != nullptr) MHD_stop_daemon(m_daemon);
     }
 
@@ -129,9 +169,9 @@ public:
             {MHD_OPTION_CONNECTION_TIMEOUT, static_cast<intptr_t>(m_limits.idleSeconds), nullptr},
             {MHD_OPTION_CONNECTION_MEMORY_LIMIT, static_cast<intptr_t>(m_limits.connectionBytes), nullptr},
             {MHD_OPTION_END, 0, nullptr}};
-        m_daemon = MHD_start_daemon(flags | MHD_USE_AUTO_INTERNAL_THREAD, 0, nullptr, nullptr, &CService::OnRequest,
-                                    this, MHD_OPTION_NOTIFY_COMPLETED, &CService::OnCompleted, this, MHD_OPTION_ARRAY,
-                                    options, MHD_OPTION_END);
+        m_daemon = MHD_start_daemon(flags | MHD_USE_AUTO_INTERNAL_THREAD | MHD_ALLOW_SUSPEND_RESUME, 0, nullptr,
+                                    nullptr, &CService::OnRequest, this, MHD_OPTION_NOTIFY_COMPLETED,
+                                    &CService::OnCompleted, this, MHD_OPTION_ARRAY, options, MHD_OPTION_END);
         return m_daemon != nullptr;
     }
 
@@ -163,18 +203,21 @@ private:
         *state = nullptr;
     }
 
-    MHD_Result Answer(MHD_Connection* connection, const char* url, const char* method, const Incoming& incoming) {
-        const Outgoing out = Route(connection, url, method, incoming);
+    MHD_Result Answer(MHD_Connection* connection, const char* url, const char* method, Incoming& incoming) {
+        const std::optional<Outgoing> routed = Route(connection, url, method, incoming);
+        if (!routed) return MHD_YES;
+        const Outgoing& out = *routed;
         const MHD_Result result = Queue(connection, out);
         m_log(ClientOf(connection) + " " + Printable(method) + " " + Printable(url) + " " + std::to_string(out.status) +
               " " + std::to_string(out.code) + " " + std::to_string(out.body.size()));
         return result;
     }
 
-    Outgoing Route(MHD_Connection* connection, std::string_view url, std::string_view method,
-                   const Incoming& incoming) {
+    /// Nothing when the connection was put to sleep: the same request comes again then.
+    std::optional<Outgoing> Route(MHD_Connection* connection, std::string_view url, std::string_view method,
+                                  Incoming& incoming) {
         const std::shared_ptr<const Knowledge> knowledge = m_board.Get();
-        if (url == "/health" && (method == "GET" || method == "HEAD")) return Health(*knowledge);
+        if (url == "/health" && (method == "GET" || method == "HEAD")) return Health(*knowledge, m_weather);
         if (url != "/feed" && url != "/health") return Plain(404, "not here\n");
         if (url != "/feed" || method != "POST") {
             Outgoing out = Plain(405, "not so\n");
@@ -182,17 +225,38 @@ private:
             return out;
         }
         if (incoming.tooLarge) return Plain(413, "too large\n");
-        return Feed(connection, incoming.body, *knowledge);
+        const FeedQuestion question = ParseFeedQuestion(incoming.body);
+        FeedAnswer answer = AnswerQuestion(question, *knowledge);
+        if (m_weather != nullptr && question.job == FeedJob::kWeather) {
+            std::optional<WeatherReply> reply = AskWeather(connection, question.city, incoming);
+            if (!reply) return std::nullopt;
+            answer.code = reply->code;
+            answer.body = std::move(reply->body);
+        }
+        return Feed(connection, std::move(answer));
+    }
+
+    std::optional<WeatherReply> AskWeather(MHD_Connection* connection, const std::string& city, Incoming& incoming) {
+        std::optional<WeatherReply> reply;
+        const bool sleeps = !incoming.hasWaited && m_sleepers->Sleep(connection, [&](std::uint64_t number) {
+            reply = m_weather->Ask(city, [sleepers = m_sleepers, number] { sleepers->Wake(number); });
+            return !reply;
+        });
+        incoming.hasWaited = true;
+        if (!sleeps && !reply) reply = m_weather->Ask(city, {});
+        return reply;
     }
 
     const CKnowledgeBoard& m_board;
     ListenerLimits m_limits;
     Log m_log;
+    CWeatherSource* m_weather;
+    std::shared_ptr<CSleepers> m_sleepers = std::make_shared<CSleepers>();
     MHD_Daemon* m_daemon = nullptr;
 };
 
-CHttpListener::CHttpListener(const CKnowledgeBoard& board, ListenerLimits limits, Log log)
-    : m_service(std::make_unique<CService>(board, limits, std::move(log))) {}
+CHttpListener::CHttpListener(const CKnowledgeBoard& board, ListenerLimits limits, Log log, CWeatherSource* weather)
+    : m_service(std::make_unique<CService>(board, limits, std::move(log), weather)) {}
 
 CHttpListener::~CHttpListener() = default;
 

@@ -7,6 +7,7 @@
 
 #include "feedserver/answers.h"
 #include "feedserver/server_config.h"
+#include "feedserver/weather_source.h"
 
 namespace rlx {
 
@@ -26,7 +27,8 @@ public:
     /// Takes one line for each request; called on the listener's thread.
     using Log = std::function<void(const std::string&)>;
 
-    CHttpListener(const CKnowledgeBoard& board, ListenerLimits limits, Log log);
+    /// `weather` may be null: then every city is unknown. It and the board outlive the listener.
+    CHttpListener(const CKnowledgeBoard& board, ListenerLimits limits, Log log, CWeatherSource* weather = nullptr);
     ~CHttpListener();
     CHttpListener(const CHttpListener&) = delete;
     CHttpListener& operator=(const CHttpListener&) = delete;

@@ -52,15 +52,45 @@ std::string ReadRates(const Json& json, ServerConfig& config) {
     return {};
 }
 
+std::optional<WeatherKind> WeatherKindOf(const std::string& name) {
+    if (name == "open-meteo") return WeatherKind::kOpenMeteo;
+    if (name == "folder") return WeatherKind::kFolder;
+    if (name == "sample") return WeatherKind::kSample;
+    if (name == "none") return WeatherKind::kNone;
+    return std::nullopt;
+}
+
+std::string ReadWeather(const Json& json, WeatherConfig& weather) {
+    if (!json.is_object()) return "weather is no object";
+    for (const auto& [key, value] : json.items()) {
+        if (key != "kind" && key != "from" && key != "sample") return "weather." + key + " is not known";
+        if (key == "sample" ? !value.is_boolean() : !value.is_string())
+            return "weather." + key + (key == "sample" ? " is neither true nor false" : " is no text");
+    }
+    const std::string kind = json.value("kind", "");
+    const std::optional<WeatherKind> known = WeatherKindOf(kind);
+    if (!known) return "weather.kind: \"" + kind + "\" is not known; open-meteo, folder, sample, none";
+    const bool web = *known == WeatherKind::kOpenMeteo;
+    weather = {*known, json.value("from", web ? kPublicWeather : ""), json.value("sample", false)};
+    if (*known == WeatherKind::kFolder && weather.from.empty()) return "weather.from is missing";
+    for (const char* part : {"{latitude}", "{longitude}"}) {
+        if (web && weather.from.find(part) == std::string::npos) return std::string("weather.from lacks ") + part;
+    }
+    if (web && !weather.from.starts_with("http://") && !weather.from.starts_with("https://"))
+        return "weather.from is no web address";
+    return {};
+}
+
 std::string ReadMember(const std::string& key, const Json& value, ServerConfig& config) {
     if (key == "rates") return ReadRates(value, config);
     if (key == "news") return ReadSource(value, "news", false, config.news.emplace());
+    if (key == "weather") return ReadWeather(value, config.weather);
     if (key == "keep") {
         if (!value.is_string()) return "keep is no text";
         config.keep = value.get<std::string>();
         return {};
     }
-    if (key != "everyMinutes") return key + " is not known; rates, news, everyMinutes, keep";
+    if (key != "everyMinutes") return key + " is not known; rates, news, weather, everyMinutes, keep";
     if (!value.is_number_integer() || value < 1 || value > kLongestInterval)
         return "everyMinutes must be a whole number from 1 to " + std::to_string(kLongestInterval);
     config.every = std::chrono::minutes(value.get<int>());

@@ -27,8 +27,8 @@ bool ReadFields(CByteReader& reader, Fields& fields) {
 }
 
 CityLine LineOf(const Fields& f) {
-    return {f[1] + u":" + f[2], f[3] + u":" + f[4], f[5],
-            f[6] + u":" + f[7] + u":" + f[8] + u":" + f[9] + u":" + f[10]};
+    return {f[1] + u":" + f[2], f[3] + u":" + f[4], f[5], f[6] + u":" + f[7] + u":" + f[8] + u":" + f[9] + u":" + f[10],
+            f[0]};
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ enum DialogId : int {
     kDialogEditSkin = 331,
     kDialogPickColour = 332,    // its title comes from the string table
     kDialogPickSkinFile = 333,  // a picture or a set of icons of a skin; its title comes from the string table
+    kDialogNewCategory = 336,   // Packing List > New category
 };
 
 enum ControlId : int {
@@ -59,9 +60,17 @@ enum ControlId : int {
     kControlItemText = 1090,
     kControlItemLists = 1091,
     kControlItemCategories = 1092,
+    kControlItemListsLabel = 1093,
+    kControlItemCategoriesLabel = 1094,
+    kControlItemHint = 1095,
+    kControlAddFromAll = 1096,
+    kControlTemplate = 1097,
     kControlFromItems = 1100,
     kControlToLists = 1101,
     kControlToCategories = 1102,
+    kControlToListsLabel = 1103,
+    kControlOtherListsLabel = 1104,
+    kControlToCategoriesLabel = 1105,
     kControlSkinList = 1200,
     kControlSkinFolder = 1201,
     kControlSkinBrowse = 1202,

@@ -172,6 +172,15 @@ enum TextId : int {
     kTextMapTip = 40314,
     kTextMapImageMissing = 40315,
     kTextImageBroken = 40316,
+    kTextMapMarginTooWide = 40317,
+    kTextMapToday = 40318,
+    kTextMapTomorrow = 40319,
+    kTextMapDay = 40320,
+    kTextMapYear = 40321,
+    kTextMapUniversalTime = 40322,
+    kTextMapSun = 40323,
+    kTextMapScrubber = 40324,
+    kTextMapPicture = 40325,
 
     // Weather.
     kTextForecast = 40400,
@@ -267,6 +276,12 @@ enum TextId : int {
     kTextSwapCurrencies = 40502,
     kTextCurrencySearchHint = 40503,
     kTextChooseCurrency = 40504,
+    kTextRatesShipped = 40505,
+    kTextNoSuchCurrency = 40506,
+    kTextNoRates = 40507,
+    kTextAmountIn = 40509,
+    kTextNotAnAmount = 40510,
+    kTextUpdatingRates = 40511,
 
     // The frame of the Tools screen.
     kTextBackToTools = 40600,
@@ -288,6 +303,12 @@ enum TextId : int {
     kTextNotANumber = 40708,
     kTextSwapUnits = 40709,
     kTextRecentPairs = 40710,
+    kTextCopyResult = 40711,
+    kTextResult = 40712,
+    kTextMeasure = 40713,
+    kTextPairOfUnits = 40714,
+    kTextUnitSearchHint = 40715,
+    kTextNoRecentPairs = 40716,
     kTextUnitNameEmpty = 40720,
     kTextUnitsNotEditable = 40721,
     kTextUnitsNotSaved = 40722,
@@ -355,6 +376,9 @@ enum TextId : int {
     kTextPackedCount = 41020,
     kTextTemplates = 41021,
     kTextEmptyTemplate = 41022,
+    kTextNoItemsYet = 41023,
+    kTextNoneChecked = 41024,
+    kTextAllChecked = 41025,
     kTextCategoryBefore = 41030,
     kTextListBefore = 41031,
     kTextPackingNotFound = 41032,
@@ -385,6 +409,8 @@ enum TextId : int {
     kTextEachPays = 41107,
     kTextTax = 41108,
     kTextCannotSplit = 41110,
+    kTextTwoShares = 41111,
+    kTextPercent = 41112,
 
     // News and feeds.
     kTextConnectionBefore = 41200,
@@ -402,6 +428,9 @@ enum TextId : int {
     kTextLoopbackNetwork = 41220,
     kTextRatesNotSaved = 41221,
     kTextNewsNotSaved = 41222,
+    kTextFetchingNews = 41223,
+    kTextLargerText = 41224,
+    kTextSmallerText = 41225,
 
     // Skins.
     kTextSkinNotFound = 41300,

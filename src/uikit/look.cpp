@@ -1,7 +1,6 @@
 #include "uikit/look.h"
 
-#include <array>
-
+#include "skins/skin_map.h"
 #include "uikit/bitmap_image.h"
 
 namespace rlx {
@@ -10,8 +9,6 @@ namespace {
 
 constexpr int kCardOpacity = 208;     // of 255
 constexpr double kSquareUpTo = 1.25;  // sides that differ by less count as equal
-
-constexpr std::array kLayoutsBySize = {SkinLayout::kPortrait, SkinLayout::kSquare, SkinLayout::kLandscape};
 
 /// The key of a picture of Tools; nothing for the pictures of screens.
 std::optional<SkinKey> ToolKeyOf(LookPicture which) {
@@ -134,15 +131,9 @@ void CLook::PaintBackground(QPainter& painter, const QRect& area, LookPicture wh
 }
 
 std::optional<CBitmap> CLook::Map(int width) const {
-    std::optional<CBitmap> best;
-    for (const SkinLayout layout : kLayoutsBySize) {
-        const auto file = m_skin.Picture(m_files, SkinKey::kMapMI, layout);
-        auto bitmap = file ? Load(*file) : std::nullopt;
-        if (!bitmap || (best && bitmap->Width() <= best->Width())) continue;
-        best = std::move(bitmap);
-        if (best->Width() >= width) break;
-    }
-    return best;
+    return LoadSkinMap(m_files, m_codec, m_skin, width, [this](const std::filesystem::path& file) {
+        emit PictureBroken(QString::fromStdString(file.string()));
+    });
 }
 
 }  // namespace rlx

@@ -36,6 +36,9 @@ public:
 
     /// The page's own commands, for the menu of the window. The actions belong to the page.
     virtual QList<QAction*> Commands() { return {}; }
+
+    /// A page lives with the room that it gets: no page makes the window larger.
+    QSize minimumSizeHint() const override { return {0, 0}; }
 };
 
 }  // namespace rlx

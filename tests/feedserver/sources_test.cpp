@@ -128,7 +128,15 @@ TEST(NewsSources, AFeedBecomesOnePlainPage) {
 TEST(ServerConfig, NamesWhatIsWrong) {
     const std::pair<const char*, const char*> rows[] = {
         {"[]", "not a JSON object"},
-        {"{\"rate\": 1}", "rate is not known; rates, news, everyMinutes, keep"},
+        {"{\"rate\": 1}", "rate is not known; rates, news, weather, everyMinutes, keep"},
+        {R"({"weather": []})", "weather is no object"},
+        {R"({"weather": {"from": "http://a/{latitude}"}})",
+         "weather.kind: \"\" is not known; open-meteo, folder, sample, none"},
+        {R"({"weather": {"kind": "open-meteo", "from": "http://a/{latitude}"}})", "weather.from lacks {longitude}"},
+        {R"({"weather": {"kind": "open-meteo", "from": "/a/{latitude}{longitude}"}})",
+         "weather.from is no web address"},
+        {R"({"weather": {"kind": "folder"}})", "weather.from is missing"},
+        {R"({"weather": {"kind": "folder", "sample": 1}})", "weather.sample is neither true nor false"},
         {"{\"rates\": {}}", "rates is no list"},
         {"{\"rates\": [{\"kind\": \"rss\", \"from\": \"a\"}]}", "rates[0].kind: \"rss\" is not known; ecb, daily"},
         {"{\"rates\": [{\"kind\": \"ecb\"}]}", "rates[0].from is missing"},

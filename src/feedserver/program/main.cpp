@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -13,6 +14,8 @@
 #include "feedserver/http_listener.h"
 #include "feedserver/refresher.h"
 #include "feedserver/server_config.h"
+#include "feedserver/source_reader.h"
+#include "feedserver/weather_source.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/system_clock.h"
 
@@ -63,6 +66,18 @@ void RefreshUntilSignal(CRefresher& refresher, const IClock& clock, std::chrono:
     } while (sigtimedwait(&signals, nullptr, &interval) < 0);
 }
 
+/// Fetches forecasts; each call has its own adapter, since they come from several threads.
+SourceBytes ReadWeather(const std::string& from, const std::atomic<bool>& stop) {
+    const FetchPatience patience{6, 20, &stop};
+    CPosixFileSystem files;
+    return ReadSourceBytes(files, from, "json", patience);
+}
+
+std::int64_t SecondsNow() {
+    const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::seconds>(sinceEpoch).count();
+}
+
 int Run(const Arguments& arguments, const ServerConfig& config, const ListenAddress& address) {
     // Blocked before any thread starts, so that only the wait below sees them.
     sigset_t signals;
@@ -78,11 +93,18 @@ int Run(const Arguments& arguments, const ServerConfig& config, const ListenAddr
     const std::filesystem::path data = arguments.data.empty() ? OwnFolder() : std::filesystem::path(arguments.data);
     CRefresher refresher(files, board, config, data, LogLine);
     refresher.Begin();
-    if (arguments.check) return refresher.Refresh(clock.Now().date) ? 0 : Fail("not every source can be used");
+    CPosixFileSystem weatherFiles;
+    CWeatherSource weather(weatherFiles, LoadForecastCities(files, data), config.weather, config.keep, ReadWeather,
+                           SecondsNow, LogLine);
+    if (arguments.check) {
+        const bool facts = refresher.Refresh(clock.Now().date);
+        return weather.Check() && facts ? 0 : Fail("not every source can be used");
+    }
+    weather.Begin();
 
     ListenerLimits limits;
     limits.connectionsOfOne = arguments.perAddress;
-    CHttpListener listener(board, limits, LogLine);
+    CHttpListener listener(board, limits, LogLine, &weather);
     const std::string fault = HasGivenSocket() ? listener.Serve(kFirstGivenSocket) : listener.Listen(address);
     if (!fault.empty()) return Fail(fault);
     LogLine("listening on port " + std::to_string(listener.Port()));
@@ -92,9 +114,10 @@ int Run(const Arguments& arguments, const ServerConfig& config, const ListenAddr
 
 int Main(int count, char** values) {
     Arguments arguments;
-    CLI::App app("The feed server of Roamlytix: exchange rates and news over HTTP.", "roamlytix-feedd");
+    CLI::App app("The feed server of Roamlytix: exchange rates, weather and news over HTTP.", "roamlytix-feedd");
     app.add_option("--listen", arguments.listen, "address and port")->capture_default_str();
-    app.add_option("--data", arguments.data, "folder with currs.lst, currs.date and news/ (else the program's own)");
+    app.add_option("--data", arguments.data,
+                   "folder with currs.lst, currs.date, cities.wet, cities.lst and news/ (else the program's own)");
     app.add_option("--config", arguments.config, "JSON file that names the sources");
     app.add_option("--per-address", arguments.perAddress, "connections from one address; more behind a load balancer")
         ->check(CLI::Range(1U, ListenerLimits{}.connections))

@@ -31,7 +31,7 @@ void CConverterPage::SetTables(UnitTables tables) {
     m_tables = std::move(tables);
     m_from = PlaceOf(Units(), from).value_or(0);
     m_to = PlaceOf(Units(), to).value_or(0);
-    Compute();
+    Compute(Notice::kOnce);
 }
 
 void CConverterPage::SelectCategory(std::size_t category) {
@@ -53,7 +53,7 @@ void CConverterPage::SelectTo(std::size_t index) {
 
 void CConverterPage::SetValue(std::u16string_view text) {
     m_value = text;
-    Compute();
+    Compute(Notice::kOnce);
 }
 
 void CConverterPage::Swap() {
@@ -63,6 +63,7 @@ void CConverterPage::Swap() {
 
 void CConverterPage::Reset() {
     m_value = u"0";
+    m_belowZero = false;
     m_result = 0;
     m_resultText = u"0";
 }
@@ -90,11 +91,12 @@ double CConverterPage::Value() const {
     return ParseNumber(m_value);
 }
 
-void CConverterPage::Compute() {
+void CConverterPage::Compute(Notice notice) {
     if (m_from >= Units().size() || m_to >= Units().size()) return;
     const std::optional<double> result = Convert(Value(), m_tables, m_category, m_from, m_to);
     ShowResult(result.value_or(0));
-    if (!result) m_boxes.Show(ErrorBox(m_texts, m_texts.Text(kTextBelowAbsoluteZero)));
+    const bool known = std::exchange(m_belowZero, !result.has_value()) && notice == Notice::kOnce;
+    if (!result && !known) m_boxes.Show(ErrorBox(m_texts, m_texts.Text(kTextBelowAbsoluteZero)));
 }
 
 void CConverterPage::ShowResult(double result) {

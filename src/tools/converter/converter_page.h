@@ -35,6 +35,8 @@ public:
     void SelectCategory(std::size_t category);
     void SelectFrom(std::size_t index);
     void SelectTo(std::size_t index);
+
+    /// Comes at every key: a value that goes on lying below absolute zero is told once.
     void SetValue(std::u16string_view text);
 
     /// "From" becomes "to".
@@ -58,7 +60,10 @@ public:
     const std::vector<RecentPair>& Recent() const { return m_recent; }
 
 private:
-    void Compute();
+    /// Whether a value below absolute zero is told each time, or only when the one before was not.
+    enum class Notice { kAlways, kOnce };
+
+    void Compute(Notice notice = Notice::kAlways);
     void ShowResult(double result);
 
     const ITexts& m_texts;
@@ -68,6 +73,7 @@ private:
     std::size_t m_from = 0;
     std::size_t m_to = 0;
     std::u16string m_value = u"0";
+    bool m_belowZero = false;
     double m_result = 0;
     std::u16string m_resultText = u"0";
     std::vector<RecentPair> m_recent;

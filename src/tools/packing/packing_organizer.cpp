@@ -69,6 +69,15 @@ std::vector<std::size_t> CPackingOrganizer::VisibleItems() const {
     return visible;
 }
 
+bool CPackingOrganizer::HasRoomForCategory() {
+    return m_lists.Categories().size() < kMaxPackingCategories || Refuse(m_texts.Text(kTextMaxCategories));
+}
+
+bool CPackingOrganizer::HasRoomForList() {
+    const std::size_t lists = m_lists.Categories()[m_current.category].lists.size();
+    return lists < kMaxPackingLists || Refuse(m_texts.Text(kTextMaxLists));
+}
+
 bool CPackingOrganizer::AddCategory(std::u16string_view name, const std::vector<std::u16string>& items) {
     if (!Edited(m_lists.AddCategory(name), kTextCategoryBefore, name)) return false;
     m_current = {m_lists.Categories().size() - 1, 0};
@@ -80,6 +89,22 @@ bool CPackingOrganizer::AddList(std::u16string_view name) {
     if (!Edited(m_lists.AddList(m_current.category, name), kTextListBefore, name)) return false;
     m_current.list = m_lists.Categories()[m_current.category].lists.size() - 1;
     return true;
+}
+
+std::vector<ListPlace> CPackingOrganizer::OtherLists() const {
+    std::vector<ListPlace> others;
+    for (std::size_t list = 1; list < m_lists.Categories()[m_current.category].lists.size(); ++list) {
+        if (list != m_current.list) others.push_back({m_current.category, list});
+    }
+    return others;
+}
+
+std::vector<ListPlace> CPackingOrganizer::OtherCategories() const {
+    std::vector<ListPlace> others;
+    for (std::size_t category = 1; category < m_lists.Categories().size(); ++category) {
+        if (category != m_current.category) others.push_back({category, 0});
+    }
+    return others;
 }
 
 bool CPackingOrganizer::AddItem(std::u16string_view text, const std::vector<ListPlace>& also) {

@@ -62,11 +62,21 @@ public:
     /// Places in the current list of the items that the filter shows.
     std::vector<std::size_t> VisibleItems() const;
 
+    /// Whether one more fits; where it does not, that is told.
+    bool HasRoomForCategory();
+    bool HasRoomForList();
+
     /// The new category becomes current; `items` (of a template, say) go to its "All Items".
     bool AddCategory(std::u16string_view name, const std::vector<std::u16string>& items = {});
 
     /// In the current category; the new list becomes current.
     bool AddList(std::u16string_view name);
+
+    /// The current category's own lists besides the current one.
+    std::vector<ListPlace> OtherLists() const;
+
+    /// "All Items" of the categories besides the current one and "All", which gets every item anyway.
+    std::vector<ListPlace> OtherCategories() const;
 
     /// To the current list and to those of `also`. Lists that have the item already are told once, and the others get
     /// it.

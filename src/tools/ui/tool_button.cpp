@@ -47,6 +47,7 @@ void CToolButton::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
 
     painter.setFont(FontFor(font(), width()));
+    painter.setPen(m_look.PanelText());  // without a pen the text has no size
     const QRect inner = rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
     const int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
     const int textHeight = painter.boundingRect(inner, flags, m_title).height();
@@ -54,7 +55,6 @@ void CToolButton::paintEvent(QPaintEvent* /*event*/) {
     const int top = inner.top() + (inner.height() - icon - kMargin - textHeight) / 2;
     const QPixmap pixmap = TintedPixmap(m_iconName, m_look.PanelText(), icon, devicePixelRatioF());
     painter.drawPixmap(QPoint(inner.center().x() - icon / 2, top), pixmap);
-    painter.setPen(m_look.PanelText());
     painter.drawText(QRect(inner.left(), top + icon + kMargin, inner.width(), textHeight), flags, m_title);
 }
 

@@ -36,7 +36,7 @@ CToolHeader::CToolHeader(const QString& backText, const CLook& look, QWidget* pa
     bold.setBold(true);
     m_label->setFont(bold);
     m_label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_label->setMinimumWidth(0);
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(2, 0, kGap, 0);
     layout->setSpacing(kGap);

@@ -12,8 +12,7 @@ constexpr int kLargestHeight = 170;
 
 QSize CellIn(const QSize& area, int count, int columns) {
     const int rows = (count + columns - 1) / columns;
-    return {std::min((area.width() - kGap) / columns - kGap, kLargestWidth),
-            std::min((area.height() - kGap) / rows - kGap, kLargestHeight)};
+    return {(area.width() - kGap) / columns - kGap, (area.height() - kGap) / rows - kGap};
 }
 
 }  // namespace
@@ -27,6 +26,7 @@ std::vector<QRect> LayOutTools(const QRect& area, int count) {
         cell = size;
         columns = tried;
     }
+    cell = cell.boundedTo({kLargestWidth, kLargestHeight});
     const int rows = (count + columns - 1) / columns;
     const int left = area.left() + (area.width() - columns * (cell.width() + kGap) + kGap) / 2;
     const int top = area.top() + (area.height() - rows * (cell.height() + kGap) + kGap) / 2;

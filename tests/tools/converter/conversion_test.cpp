@@ -146,6 +146,13 @@ TEST_F(ConverterPageTest, SaysWhatLiesBelowAbsoluteZero) {
     EXPECT_EQ(m_boxes.shown[0].text, u"{32915}");
     EXPECT_EQ(m_page.ResultText(), u"0");
     EXPECT_EQ(m_page.ValueText(), u"-300");
+    m_page.SetValue(u"-3000");
+    EXPECT_EQ(m_boxes.shown.size(), 1U) << "typing on";
+    m_page.SelectTo(1);
+    EXPECT_EQ(m_boxes.shown.size(), 2U) << "another unit is another question";
+    m_page.SetValue(u"-30");
+    m_page.SetValue(u"-300");
+    EXPECT_EQ(m_boxes.shown.size(), 3U) << "below again";
 }
 
 TEST_F(ConverterPageTest, KeepsUnitsByNameAndRemembersPairs) {

@@ -1,0 +1,259 @@
+#include "tools/packing/ui/packing_page.h"
+
+#include <QApplication>
+#include <QScroller>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "base/number.h"
+#include "shell/command_ids.h"
+#include "shell/fill_text.h"
+#include "tools/packing/ui/add_items_dialog.h"
+#include "tools/packing/ui/packing_dialogs.h"
+#include "uikit/icons.h"
+#include "uikit/page_palette.h"
+#include "uikit/qt_text.h"
+
+namespace rlx {
+
+namespace {
+
+constexpr int kMargin = 6;
+constexpr int kGap = 4;
+constexpr int kLongestItem = 32767;
+
+/// The first name of categories and of lists is content of the file, but shown in the language in force.
+template <typename Named>
+QStringList ShownNames(const std::vector<Named>& among, std::u16string_view first, const std::u16string& firstShown) {
+    QStringList names;
+    for (const Named& one : among)
+        names << ToQString(names.isEmpty() && one.name == first ? firstShown : one.name);
+    return names;
+}
+
+}  // namespace
+
+CPackingPage::CPackingPage(IFileSystem& files, const std::filesystem::path& folder, const CResources& resources,
+                           IMessageBoxes& boxes, const CLook& look)
+    : m_resources(resources),
+      m_look(look),
+      m_organizer(files, folder, resources, boxes),
+      m_model(m_organizer),
+      m_categories(new CPackingSelector(this)),
+      m_lists(new CPackingSelector(this)),
+      m_view(new CPackingListView(this)),
+      m_status(new CPackingStatus(ToQString(resources.Text(kTextEditItemHint)), this)),
+      m_filters(new QActionGroup(this)),
+      m_undo(new QAction(ToQString(resources.Text(kTextUndo)), this)) {
+    setObjectName("packingPage");
+    MakeSelectors();
+    MakeList();
+    MakeCommands();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setSpacing(kGap);
+    auto* selectors = new QHBoxLayout;
+    selectors->addWidget(m_categories, 1);
+    selectors->addWidget(m_lists, 1);
+    layout->addLayout(selectors);
+    layout->addWidget(m_view, 1);
+    layout->addWidget(m_status);
+    layout->addWidget(m_bar);
+    connect(&m_look, &CLook::Changed, this, &CPackingPage::ApplyLook);
+    ApplyLook();
+}
+
+void CPackingPage::MakeSelectors() {
+    m_categories->setObjectName("categories");
+    m_lists->setObjectName("lists");
+    connect(m_categories, &QComboBox::currentIndexChanged, this, [this](int index) {
+        m_organizer.SelectCategory(static_cast<std::size_t>(index));
+        Show();
+    });
+    connect(m_lists, &QComboBox::currentIndexChanged, this, [this](int index) {
+        m_organizer.SelectList(static_cast<std::size_t>(index));
+        Show();
+    });
+}
+
+void CPackingPage::MakeList() {
+    m_view->setObjectName("items");
+    m_view->setModel(&m_model);
+    m_view->setAccessibleName(ToQString(m_resources.Text(kTextToolPacking)));
+    QScroller::grabGesture(m_view->viewport(), QScroller::TouchGesture);
+    connect(m_view, &QListView::doubleClicked, this, &CPackingPage::EditDoubleClicked);
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { ShowStatus(); });
+    m_settle.setSingleShot(true);
+    m_settle.setInterval(QApplication::doubleClickInterval());
+    connect(&m_settle, &QTimer::timeout, this, &CPackingPage::Show);
+    connect(&m_model, &QAbstractItemModel::dataChanged, this, [this] {
+        ShowStatus();
+        if (m_organizer.Filter() != PackingFilter::kAll) m_settle.start();
+    });
+}
+
+void CPackingPage::MakeCommands() {
+    m_commands.Add(kCommandAddCategory, this, [this] { AskForCategory(); });
+    m_commands.Add(kCommandAddList, this, [this] { AskForList(); });
+    m_commands.Add(kCommandAddItems, this, [this] { AskForItems(); })->setShortcut(Qt::Key_Insert);
+    const auto change = [this](int command, bool (CPackingOrganizer::*act)()) {
+        m_commands.Add(command, this, [this, act] {
+            if ((m_organizer.*act)()) Show();
+        });
+    };
+    change(kCommandDeleteCategory, &CPackingOrganizer::DeleteCategory);
+    change(kCommandDeleteList, &CPackingOrganizer::DeleteList);
+    change(kCommandDeleteAllItems, &CPackingOrganizer::DeleteAllItems);
+    change(kCommandUncheckAll, &CPackingOrganizer::UncheckAll);
+    m_commands.Add(kCommandDeleteItem, this, [this] { DeleteSelected(); })->setShortcut(Qt::Key_Delete);
+    MakeFilter(kCommandShowAll, PackingFilter::kAll);
+    MakeFilter(kCommandShowChecked, PackingFilter::kChecked);
+    MakeFilter(kCommandShowUnchecked, PackingFilter::kUnchecked);
+    m_undo->setShortcut(QKeySequence::Undo);
+    connect(m_undo, &QAction::triggered, this, [this] {
+        if (m_organizer.UndoDelete()) Show();
+    });
+    auto* edit = new QAction(this);
+    edit->setShortcut(Qt::Key_F2);
+    connect(edit, &QAction::triggered, this, [this] { EditItem(m_view->currentIndex()); });
+    for (QAction* action : {m_commands.Find(kCommandAddItems), m_commands.Find(kCommandDeleteItem), m_undo, edit}) {
+        action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+        addAction(action);
+    }
+    m_bar = new CPackingBar(m_resources.Menu(kMenuPacking).value_or(MenuTemplate{}), m_commands, m_undo, this);
+    connect(m_status, &CPackingStatus::FilterDismissed, m_commands.Find(kCommandShowAll), &QAction::trigger);
+}
+
+void CPackingPage::MakeFilter(int command, PackingFilter filter) {
+    QAction* action = m_commands.Add(command, this, [this, filter] {
+        m_organizer.SetFilter(filter);
+        Show();
+    });
+    action->setCheckable(true);
+    m_filters->addAction(action);
+    action->setChecked(filter == PackingFilter::kAll);
+}
+
+void CPackingPage::ApplyLook() {
+    const QColor text = m_look.PanelText();
+    setPalette(
+        PagePalette(m_look, {m_look.Colour(SkinKey::kToolsPCP), text, m_look.Colour(SkinKey::kToolsPBCP), text}));
+    ShowStatus();
+}
+
+void CPackingPage::Entered() {
+    if (!m_loaded) m_organizer.Load();
+    m_loaded = true;
+    Show();
+    m_view->setFocus(Qt::OtherFocusReason);
+}
+
+bool CPackingPage::MayLeave() {
+    const bool leaves = m_organizer.Leave();
+    Show();
+    return leaves;
+}
+
+void CPackingPage::Refresh() {
+    Show();
+}
+
+void CPackingPage::Show() {
+    m_settle.stop();
+    const std::optional<std::size_t> selected = SelectedItem();
+    ShowSelectors();
+    m_model.Reload();
+    m_view->SetEmptyText(EmptyText());
+    if (m_model.rowCount() > 0) {
+        const QModelIndex before = selected ? m_model.IndexOf(*selected) : QModelIndex();
+        m_view->setCurrentIndex(before.isValid() ? before : m_model.index(0));
+    }
+    ShowStatus();
+}
+
+void CPackingPage::ShowSelectors() {
+    const std::vector<PackingCategory>& categories = m_organizer.Lists().Categories();
+    const ListPlace current = m_organizer.Current();
+    m_categories->Show(ShownNames(categories, kAllCategoryName, m_resources.Text(kTextAllCategory)), current.category);
+    m_lists->Show(ShownNames(categories[current.category].lists, kAllItemsName, m_resources.Text(kTextAllItems)),
+                  current.list);
+}
+
+void CPackingPage::ShowStatus() {
+    const std::vector<PackingItem>& items = m_organizer.CurrentList().items;
+    const auto ticked = std::ranges::count(items, true, &PackingItem::ticked);
+    const std::u16string packed =
+        FillText(m_resources.Text(kTextPackedCount),
+                 {FormatInteger(ticked), FormatInteger(static_cast<std::int64_t>(items.size()))});
+    const bool filters = m_organizer.Filter() != PackingFilter::kAll;
+    m_status->Set(ToQString(packed), filters ? m_filters->checkedAction()->text() : QString());
+    m_commands.Find(kCommandDeleteItem)->setEnabled(SelectedItem().has_value());
+    m_bar->SetUndo(m_organizer.CanUndoDelete(), TintedIcon(QStringLiteral("undo"), m_look.PanelText()));
+}
+
+QString CPackingPage::EmptyText() const {
+    if (m_organizer.CurrentList().items.empty()) return ToQString(m_resources.Text(kTextNoItemsYet));
+    const bool checked = m_organizer.Filter() == PackingFilter::kChecked;
+    return ToQString(m_resources.Text(checked ? kTextNoneChecked : kTextAllChecked));
+}
+
+std::optional<std::size_t> CPackingPage::SelectedItem() const {
+    const QModelIndex index = m_view->currentIndex();
+    if (!index.isValid()) return std::nullopt;
+    return m_model.ItemAt(index);
+}
+
+void CPackingPage::SelectItem(std::size_t item) {
+    const QModelIndex index = m_model.IndexOf(item);
+    m_view->setCurrentIndex(index);
+    if (index.isValid()) m_view->scrollTo(index);
+}
+
+void CPackingPage::AskForCategory() {
+    if (!m_organizer.HasRoomForCategory()) return;
+    const auto take = [this](const std::u16string& name, const std::vector<std::u16string>& items) {
+        return m_organizer.AddCategory(name, items);
+    };
+    if (CNewCategoryDialog(m_resources, take, this).exec() == QDialog::Accepted) Show();
+}
+
+void CPackingPage::AskForList() {
+    if (!m_organizer.HasRoomForList()) return;
+    const auto take = [this](const std::u16string& name) { return m_organizer.AddList(name); };
+    CPackingTextDialog dialog(m_resources, kTextNewList, {}, static_cast<int>(kMaxNameLength), take, this);
+    if (dialog.exec() == QDialog::Accepted) Show();
+}
+
+/// What was added before the dialog was given up stays added.
+void CPackingPage::AskForItems() {
+    const std::size_t before = m_organizer.CurrentList().items.size();
+    CAddItemsDialog(m_organizer, m_resources, this).exec();
+    Show();
+    if (m_organizer.CurrentList().items.size() > before) SelectItem(m_organizer.CurrentList().items.size() - 1);
+}
+
+/// The first of two clicks has turned the tick over, which nobody meant.
+void CPackingPage::EditDoubleClicked(const QModelIndex& index) {
+    const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    m_model.setData(index, ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    EditItem(index);
+}
+
+void CPackingPage::EditItem(const QModelIndex& index) {
+    if (!index.isValid()) return;
+    const std::size_t item = m_model.ItemAt(index);
+    const auto take = [this, item](const std::u16string& text) { return m_organizer.EditItem(item, text); };
+    const QString text = index.data(Qt::DisplayRole).toString();
+    if (CPackingTextDialog(m_resources, kTextEditItem, text, kLongestItem, take, this).exec() == QDialog::Accepted)
+        Show();
+}
+
+void CPackingPage::DeleteSelected() {
+    const std::optional<std::size_t> item = SelectedItem();
+    if (!item || !m_organizer.DeleteItem(*item)) return;
+    Show();
+    const std::size_t count = m_organizer.CurrentList().items.size();
+    if (count > 0) SelectItem(std::min(*item, count - 1));
+}
+
+}  // namespace rlx

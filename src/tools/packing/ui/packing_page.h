@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QActionGroup>
+#include <QTimer>
+#include <filesystem>
+
+#include "platform/file_system.h"
+#include "platform/message_boxes.h"
+#include "shell/resources.h"
+#include "tools/packing/packing_organizer.h"
+#include "tools/packing/ui/packing_bar.h"
+#include "tools/packing/ui/packing_item_model.h"
+#include "tools/packing/ui/packing_list_view.h"
+#include "tools/packing/ui/packing_selector.h"
+#include "tools/packing/ui/packing_status.h"
+#include "uikit/look.h"
+#include "uikit/template_menu.h"
+#include "uikit/tool_page.h"
+
+namespace rlx {
+
+/// The packing lists: what is to be packed, ticked off by a tap on its row. Insert adds, Delete deletes, F2 and a
+/// double click edit, Ctrl+Z takes the last delete back. The file is read when the page is first entered and written
+/// when a person who leaves it agrees.
+class CPackingPage : public CToolPage {
+    Q_OBJECT
+
+public:
+    /// All references must outlive the page.
+    CPackingPage(IFileSystem& files, const std::filesystem::path& folder, const CResources& resources,
+                 IMessageBoxes& boxes, const CLook& look);
+
+    int TitleText() const override { return kTextToolPacking; }
+    QString IconName() const override { return QStringLiteral("packing"); }
+    LookPicture Picture() const override { return LookPicture::kPacking; }
+    void Entered() override;
+    bool MayLeave() override;
+    void Refresh() override;
+
+private:
+    void MakeSelectors();
+    void MakeList();
+    void MakeCommands();
+    void MakeFilter(int command, PackingFilter filter);
+    void ApplyLook();
+
+    void Show();
+    void ShowSelectors();
+    void ShowStatus();
+    void SelectItem(std::size_t item);
+    QString EmptyText() const;
+    std::optional<std::size_t> SelectedItem() const;
+
+    void AskForCategory();
+    void AskForList();
+    void AskForItems();
+    void EditItem(const QModelIndex& index);
+    void EditDoubleClicked(const QModelIndex& index);
+    void DeleteSelected();
+
+    const CResources& m_resources;
+    const CLook& m_look;
+    CPackingOrganizer m_organizer;
+    CPackingItemModel m_model;
+    CCommandTable m_commands;
+    bool m_loaded = false;
+    QTimer m_settle;  ///< runs while rows that the filter hides are still shown
+    CPackingSelector* m_categories;
+    CPackingSelector* m_lists;
+    CPackingListView* m_view;
+    CPackingStatus* m_status;
+    QActionGroup* m_filters;
+    QAction* m_undo;
+    CPackingBar* m_bar = nullptr;
+};
+
+}  // namespace rlx

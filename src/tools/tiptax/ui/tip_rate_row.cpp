@@ -1,0 +1,42 @@
+#include "tools/tiptax/ui/tip_rate_row.h"
+
+#include "uikit/qt_text.h"
+
+namespace rlx {
+
+CTipRateRow::CTipRateRow(const QString& name, const QString& label, const ITexts& texts, QGridLayout& grid, int row,
+                         QWidget* parent)
+    : QObject(parent),
+      m_rate(new CNumberField(parent)),
+      m_added(new QCheckBox(ToQString(texts.Text(kTextAddToBill)), parent)),
+      m_amount(new CFittedLabel(parent)),
+      m_included(new QLabel(ToQString(texts.Text(kTextIncludedInBill)), parent)) {
+    m_rate->setObjectName(name + "Rate");
+    m_added->setObjectName(name + "Added");
+    m_amount->setObjectName(name + "Amount");
+    m_included->setObjectName(name + "Included");
+    auto* caption = new QLabel(label, parent);
+    caption->setBuddy(m_rate);
+    m_rate->setAccessibleName(label);
+    m_added->setAccessibleName(label + " " + m_added->text());
+    m_amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_included->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    grid.addWidget(caption, row, 0);
+    grid.addWidget(m_rate, row, 1);
+    grid.addWidget(new QLabel(ToQString(texts.Text(kTextPercent)), parent), row, 2);
+    grid.addWidget(m_added, row, 3);
+    grid.addWidget(m_amount, row, 4);
+    grid.addWidget(m_included, row + 1, 2, 1, 3);
+    connect(m_rate, &QLineEdit::textEdited, this, &CTipRateRow::RateEdited);
+    connect(m_added, &QCheckBox::clicked, this, &CTipRateRow::AddedChanged);
+}
+
+void CTipRateRow::Show(const CTipCalculator& tip, TipRate rate) {
+    const QString text = ToQString(tip.RateText(rate));
+    if (m_rate->text() != text) m_rate->setText(text);
+    m_added->setChecked(tip.IsAdded(rate));
+    m_included->setVisible(!tip.IsAdded(rate));
+    m_amount->Show(ToQString(tip.AmountText(rate)));
+}
+
+}  // namespace rlx
