@@ -13,7 +13,6 @@
 #include "shell/program_paths.h"
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
-#include "skins/skin_loader.h"
 #include "tools/clothing/ui/clothing_tool.h"
 #include "tools/converter/ui/converter_tool.h"
 #include "tools/dialing/ui/dialing_tool.h"
@@ -41,10 +40,12 @@ CApplication::CApplication(const WindowOptions& options)
     OpenFolder();
     m_window = std::make_unique<CMainWindow>(m_clock, m_resources);
     m_windowBoxes.SetOwner(m_window.get());
+    m_skins = std::make_unique<CSkinCommands>(SkinPorts{m_files, m_codec, m_resources, m_boxes}, m_folder->Root(),
+                                              *m_settings, m_look, *m_window);
     MakeScreens();
     MakeCommands();
     connect(&m_look, &CLook::Changed, this, &CApplication::ApplyLook);
-    LoadSkin();
+    m_skins->Load();
     RestoreScreen();
 }
 
@@ -160,6 +161,8 @@ void CApplication::MakeCommands() {
     m_commands.Add(kCommandFetchNews, this, [this] { m_feeds->FetchNews(); });
     m_commands.Add(kCommandShowNews, this, [this] { m_feeds->ShowNews(); });
     m_commands.Add(kCommandOwnerName, this, [this] { m_feeds->AskOwnerName(); });
+    m_commands.Add(kCommandChooseSkin, this, [this] { m_skins->Choose(); });
+    m_commands.Add(kCommandEditSkin, this, [this] { m_skins->Edit(); });
     m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });
     m_commands.Add(kCommandAbout, this, [this] { ShowAbout(); });
     m_commands.Add(kCommandExit, this, [this] { m_window->close(); })->setShortcut(QKeySequence::Quit);
@@ -192,14 +195,6 @@ void CApplication::RestoreScreen() {
 }
 
 /// Every screen paints anew when the look changes; dialogs and the frame take the palette.
-void CApplication::LoadSkin() {
-    const auto write = [this](std::u16string_view setting) {
-        m_settings->WriteString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kSkin, setting);
-    };
-    CSkinLoader loader(m_files, m_folder->Root(), m_resources, m_boxes, write);
-    m_look.SetSkin(loader.Load(m_settings->ReadString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kSkin)));
-}
-
 void CApplication::ApplyLook() {
     QApplication::setPalette(m_look.Palette());
     m_window->SetColours({m_look.Bar(), m_look.PanelText(), m_look.Accent()});

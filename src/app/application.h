@@ -8,6 +8,7 @@
 #include "app/feed_wiring.h"
 #include "app/main_window.h"
 #include "app/silent_message_boxes.h"
+#include "app/skin_commands.h"
 #include "base/calendar.h"
 #include "clocks/ui/clocks_screen.h"
 #include "map/ui/map_screen.h"
@@ -59,7 +60,6 @@ private:
     void MakeWeather();
     void MakeCommands();
     void RestoreScreen();
-    void LoadSkin();
     void ApplyLook();
     void UpdateChecks();
     void ToggleSetting(std::u16string_view key, std::u16string_view name, std::uint32_t fallback = 0);
@@ -92,6 +92,7 @@ private:
     CClocksScreen* m_clocksScreen = nullptr;    ///< owned by the window
     CToolsScreen* m_toolsScreen = nullptr;      ///< owned by the window
     CWeatherScreen* m_weatherScreen = nullptr;  ///< owned by the window
+    std::unique_ptr<CSkinCommands> m_skins;
 };
 
 }  // namespace rlx

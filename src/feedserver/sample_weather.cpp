@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kSampleDays = 7;
 constexpr double kSecondsPerHour = 3600;
+constexpr long kMinutesPerDay = 1440;
 
 /// Numbers from 0 to 1 that depend on the city and the day only.
 class CDraw {
@@ -69,7 +70,7 @@ double Rounded(double value) {
 
 std::optional<TimeOfDay> ClockOf(double hours) {
     if (!std::isfinite(hours)) return std::nullopt;
-    const long minutes = std::lround((hours - std::floor(hours / 24) * 24) * 60) % (24 * 60);
+    const long minutes = std::lround((hours - std::floor(hours / 24) * 24) * 60) % kMinutesPerDay;
     return TimeOfDay{static_cast<int>(minutes / 60), static_cast<int>(minutes % 60)};
 }
 

@@ -68,9 +68,9 @@ std::string FaultOfPosition(const ParsedOpenMeteo& parsed, const ForecastCity& c
 
 std::string FaultOfDays(const Forecast& forecast, const Date& today) {
     // The calendars of the world lie within a day of UTC's.
-    if (forecast.days.front().date > AddDays(today, 2))
+    if (DayNumber(forecast.days.front().date) > DayNumber(today) + 2)
         return "a forecast from " + Narrow(IsoDay(forecast.days.front().date)) + " on, which is in the future";
-    if (forecast.days.back().date < AddDays(today, -1))
+    if (DayNumber(forecast.days.back().date) < DayNumber(today) - 1)
         return "a forecast up to " + Narrow(IsoDay(forecast.days.back().date)) + ", which is past";
     return {};
 }

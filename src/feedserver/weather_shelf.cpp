@@ -1,7 +1,5 @@
 #include "feedserver/weather_shelf.h"
 
-#include <algorithm>
-
 #include "base/text.h"
 #include "weather/forecast_writer.h"
 
@@ -66,7 +64,8 @@ CWeatherShelf::Summary CWeatherShelf::Count() const {
     for (const auto& [name, entry] : m_entries) {
         if (entry.reply.empty()) continue;
         ++summary.forecasts;
-        summary.newest = std::max(summary.newest.value_or(entry.issued), entry.issued);
+        if (!summary.newest || SecondNumber(*summary.newest) < SecondNumber(entry.issued))
+            summary.newest = entry.issued;
     }
     return summary;
 }

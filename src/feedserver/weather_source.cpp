@@ -29,7 +29,7 @@ bool HasSource(const WeatherConfig& config) {
 }  // namespace
 
 CWeatherSource::CWeatherSource(IFileSystem& files, ForecastCities cities, WeatherConfig config,
-                               std::filesystem::path keep, WeatherReader reader, Clock clock, Log log,
+                               const std::filesystem::path& keep, WeatherReader reader, Clock clock, Log log,
                                WeatherLimits limits)
     : m_files(files),
       m_cities(std::move(cities)),

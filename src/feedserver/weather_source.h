@@ -49,7 +49,7 @@ public:
 
     /// `files`, used by one thread at a time, keeps forecasts in the folder "weather" below `keep`; an empty `keep`:
     /// they are not kept. `files` outlives the source.
-    CWeatherSource(IFileSystem& files, ForecastCities cities, WeatherConfig config, std::filesystem::path keep,
+    CWeatherSource(IFileSystem& files, ForecastCities cities, WeatherConfig config, const std::filesystem::path& keep,
                    WeatherReader reader, Clock clock, Log log, WeatherLimits limits = {});
     ~CWeatherSource();
     CWeatherSource(const CWeatherSource&) = delete;

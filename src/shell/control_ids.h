@@ -14,9 +14,13 @@ enum DialogId : int {
     kDialogOwnerName = 324,
     kDialogSunDetails = 325,
     kDialogCredits = 326,
-    kDialogAddItem = 327,      // Packing List > New item
-    kDialogAddFromAll = 328,   // Packing List > Add/Remove item(s)
-    kDialogNewCategory = 336,  // Packing List > New category
+    kDialogAddItem = 327,     // Packing List > New item
+    kDialogAddFromAll = 328,  // Packing List > Add/Remove item(s)
+    kDialogChooseSkin = 330,
+    kDialogEditSkin = 331,
+    kDialogPickColour = 332,    // its title comes from the string table
+    kDialogPickSkinFile = 333,  // a picture or a set of icons of a skin; its title comes from the string table
+    kDialogNewCategory = 336,   // Packing List > New category
 };
 
 enum ControlId : int {
@@ -67,6 +71,14 @@ enum ControlId : int {
     kControlToListsLabel = 1103,
     kControlOtherListsLabel = 1104,
     kControlToCategoriesLabel = 1105,
+    kControlSkinList = 1200,
+    kControlSkinFolder = 1201,
+    kControlSkinBrowse = 1202,
+    kControlSkinKeys = 1210,
+    kControlSkinChange = 1211,
+    kControlSkinReset = 1212,
+    kControlColourText = 1220,
+    kControlSkinFileList = 1230,
 };
 
 }  // namespace rlx

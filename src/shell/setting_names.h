@@ -32,6 +32,7 @@ inline constexpr std::u16string_view kWeatherTip = u"weattip";     ///< 1 or 2
 inline constexpr std::u16string_view kFahrenheit = u"fara";        ///< 1: Fahrenheit, 0: Celsius
 inline constexpr std::u16string_view kLanguage = u"lang";          ///< list position of the language; 0: built in
 inline constexpr std::u16string_view kSkin = u"skin";              ///< text: the selected skin file, or "default"
+inline constexpr std::u16string_view kSkinsFolder = u"skinsdir";   ///< text: the folder of skins looked into last
 inline constexpr std::u16string_view kHomeName = u"hlname";        ///< text: the home location's name
 inline constexpr std::u16string_view kSession = u"RXSI";           ///< text: the feed server's session
 inline constexpr std::u16string_view kNewsId = u"newsid";          ///< text: the latest news seen; "0": none

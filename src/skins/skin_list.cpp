@@ -15,7 +15,15 @@ bool IsSkinName(const std::string& name) {
            EqualIgnoringCase(std::u16string_view(text).substr(text.size() - kExtension.size()), kExtension);
 }
 
-SkinEntry EntryOf(IFileSystem& files, const std::filesystem::path& file) {
+void AddSkinsOf(IFileSystem& files, const std::filesystem::path& folder, std::vector<SkinEntry>& entries) {
+    for (const auto& name : files.ListFiles(folder)) {
+        if (IsSkinName(name)) entries.push_back(SkinEntryOf(files, folder / name));
+    }
+}
+
+}  // namespace
+
+SkinEntry SkinEntryOf(IFileSystem& files, const std::filesystem::path& file) {
     SkinEntry entry{{}, file, ValidateSkin(files, file)};
     if (auto text = ReadSkinText(files, file)) {
         entry.text = Trim(CSkin(*std::move(text), file.parent_path()).Name(SkinKey::kDescriptionN));
@@ -23,14 +31,6 @@ SkinEntry EntryOf(IFileSystem& files, const std::filesystem::path& file) {
     if (entry.text.empty()) entry.text = FromUtf8(file.filename().string());
     return entry;
 }
-
-void AddSkinsOf(IFileSystem& files, const std::filesystem::path& folder, std::vector<SkinEntry>& entries) {
-    for (const auto& name : files.ListFiles(folder)) {
-        if (IsSkinName(name)) entries.push_back(EntryOf(files, folder / name));
-    }
-}
-
-}  // namespace
 
 std::vector<SkinEntry> ListSkins(IFileSystem& files, const std::filesystem::path& folder, const ITexts& texts) {
     std::vector<SkinEntry> entries;

@@ -17,6 +17,9 @@ struct SkinEntry {
     std::vector<SkinFault> faults;
 };
 
+/// The line of one skin file, also of one that cannot be read.
+SkinEntry SkinEntryOf(IFileSystem& files, const std::filesystem::path& file);
+
 /// The skins of a folder ("*.skn", letter case ignored), then those of the folders in it, one level deep, by file name.
 /// Where there are none, the single entry that says so.
 std::vector<SkinEntry> ListSkins(IFileSystem& files, const std::filesystem::path& folder, const ITexts& texts);

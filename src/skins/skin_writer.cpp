@@ -10,7 +10,6 @@
 namespace rlx {
 namespace {
 
-constexpr std::size_t kMostBytes = 1U << 20U;
 constexpr std::u16string_view kMarks = u"<>*[\r\n";
 
 /// One line of `text` with its line end.
@@ -112,7 +111,7 @@ std::string RewriteSkin(std::string_view text, const std::map<SkinKey, std::u16s
 
 SkinWriteResult WriteSkin(IFileSystem& files, const std::filesystem::path& skinFile, const CSkinEdit& edit,
                           bool defaultSkin) {
-    const auto old = files.ReadFile(skinFile, kMostBytes);
+    const auto old = files.ReadFile(skinFile, kMostSkinBytes);
     if (!old) return {SkinWriteStatus::kNotRead, {}};
     const auto lines = edit.Lines(defaultSkin);
     for (const auto& [key, line] : lines) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <map>
@@ -11,6 +12,9 @@
 #include "skins/skin_schema.h"
 
 namespace rlx {
+
+/// A skin file larger than this is no skin.
+inline constexpr std::size_t kMostSkinBytes = 1U << 20U;
 
 /// What an editor changed. The sections of the keys given here are the changed ones; nothing else is touched.
 class CSkinEdit {
@@ -24,6 +28,11 @@ public:
 
     /// The weather icons: a folder, or one of the names of the program's own set.
     void SetIconSet(std::u16string_view chosen);
+
+    /// The key is not changed after all.
+    void Reset(SkinKey key) { m_values.erase(key); }
+
+    bool IsEmpty() const { return m_values.empty(); }
 
     /// The line that each changed key becomes: key, "@", value, without a line end.
     std::map<SkinKey, std::u16string> Lines(bool defaultSkin) const;

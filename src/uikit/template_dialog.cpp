@@ -26,8 +26,16 @@ namespace {
 /// Below this width or height a dialog takes the whole screen of its window.
 constexpr int kSmallScreen = 400;
 
+constexpr int kSelectorHeight = 12;  // template units
+
 /// Controls that share a row of the template, in reading order.
 using Row = std::vector<const DialogControl*>;
+
+/// The height of a selector in a template is that of its opened list.
+int ClosedHeight(const DialogControl& control) {
+    const bool opens = control.kind == ControlKind::kDropDownList || control.kind == ControlKind::kComboBox;
+    return opens ? std::min(control.height, kSelectorHeight) : control.height;
+}
 
 std::vector<Row> RowsOf(const DialogTemplate& dialog) {
     std::vector<const DialogControl*> ordered;
@@ -38,10 +46,10 @@ std::vector<Row> RowsOf(const DialogTemplate& dialog) {
     std::vector<Row> rows;
     int bottom = 0;
     for (const DialogControl* control : ordered) {
-        const int middle = control->y + control->height / 2;
+        const int middle = control->y + ClosedHeight(*control) / 2;
         if (rows.empty() || middle >= bottom) {
             rows.emplace_back();
-            bottom = control->y + control->height;
+            bottom = control->y + ClosedHeight(*control);
         }
         rows.back().push_back(control);
     }

@@ -112,6 +112,7 @@ TEST_F(UnitDialog, AddsRefusesAndDeletes) {
     Add("Bag", "25");
     EXPECT_EQ(units->rowCount(), 24);
     EXPECT_EQ(Selected(), "Bag");
+    EXPECT_GT(List()->y(), dialog->Control<QComboBox>(kControlUnitCategory)->geometry().bottom());
     EXPECT_EQ(changes, 1);
     EXPECT_TRUE(dialog->isVisible());
     Add("tONNE", "1");

@@ -70,9 +70,7 @@ void CUnitDialog::ShowUnits() {
         }
         m_model.appendRow(row);
     }
-    m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_list->header()->setSectionResizeMode(1, QHeaderView::Interactive);
-    m_list->header()->resizeSection(1, width() * 2 / 5);
+    m_list->header()->setSectionResizeMode(QHeaderView::Stretch);
     m_delete->setEnabled(false);
 }
 
