@@ -15,7 +15,8 @@ std::vector<PlaceUpdate> FetchWeather(CSession& session, CWeatherStore& store, C
         return client.PostFeedRequest(*address, parameters.WeatherParameters(feedName, {}), false).body;
     };
     std::vector<std::u16string> places;
-    for (const auto city : cities) places.push_back(session.Cities().GetPlace(city));
+    for (const auto city : cities)
+        places.push_back(session.Cities().GetPlace(city));
     CWeatherUpdate update(store, request, session.Boxes(), session.Texts());
     return update.Run(
         places, [&] { return forecasts.UtcNow(); }, nullptr);

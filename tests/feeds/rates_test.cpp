@@ -60,12 +60,14 @@ TEST(RatesList, KnowsItsDate) {
     files.WriteFile(folder.Path() / "currs.date", "2026-09-29\r\n");
     EXPECT_EQ(ShippedRatesDate(files, folder.Path()), (Date{2026, 9, 29}));
     CMemoryRegistry registry;
-    const RatesOrigin shipped = OriginOfRates(registry, files, folder.Path());
+    const RatesOrigin shipped = OriginOfRates(registry, ShippedRatesDate(files, folder.Path()));
     EXPECT_EQ(shipped.date, (Date{2026, 9, 29}));
     EXPECT_EQ(shipped.source, u"");
-    EXPECT_FALSE(AreRatesOld(shipped, {2026, 10, 6}));
-    EXPECT_TRUE(AreRatesOld(shipped, {2026, 10, 7}));
-    EXPECT_TRUE(AreRatesOld({}, {2026, 10, 7}));
+    EXPECT_FALSE(AreRatesStale(shipped.date, {2026, 10, 6}));
+    EXPECT_TRUE(AreRatesStale(shipped.date, {2026, 10, 7}));
+    EXPECT_FALSE(AreRatesStale(shipped.date, {2026, 9, 28}));
+    EXPECT_TRUE(AreRatesStale(shipped.date, {2026, 9, 27}));  // a day that has not come yet cannot be right
+    EXPECT_TRUE(AreRatesStale(std::nullopt, {2026, 10, 7}));
 }
 
 TEST(RatesReply, TakesEntriesApart) {
@@ -215,9 +217,7 @@ TEST(RatesUpdate, TheLabelChangesWithTheDay) {
     const RatesUpdateResult third = world.Update(server);
     EXPECT_EQ(third.label, std::nullopt);
     EXPECT_EQ(third.rates, 0U);
-    CTempFolder folder;
-    CPosixFileSystem files;
-    const RatesOrigin origin = OriginOfRates(world.registry, files, folder.Path());
+    const RatesOrigin origin = OriginOfRates(world.registry, std::nullopt);
     EXPECT_EQ(origin.date, (Date{2026, 3, 2}));
     EXPECT_EQ(origin.source, u"127.0.0.1");
 }
