@@ -150,7 +150,7 @@ std::optional<CityIndex> FindCity(CSession& session, const std::string& word) {
     }
     std::u16string names;
     for (std::size_t i = 0; i < found.size() && i < kMostCitiesNamed; ++i) {
-        names += u"\n" + FormatInteger(found[i]) + u" " + cities.GetPlace(found[i]);
+        names.append(u"\n").append(FormatInteger(found[i])).append(u" ").append(cities.GetPlace(found[i]));
     }
     session.Fail(session.Text(kTextSeveralCities, text, FormatInteger(static_cast<std::int64_t>(found.size()))) +
                  names);
