@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QShortcut>
+#include <QTimer>
 #include <QWindowStateChangeEvent>
 
 #include "uikit/qt_text.h"
@@ -13,6 +14,8 @@ namespace {
 
 constexpr int kSmallestWidth = 240;
 constexpr int kSmallestHeight = 240;
+constexpr int kFirstWidth = 480;
+constexpr int kFirstHeight = 640;
 constexpr int kWidthForSideLabels = 760;
 constexpr int kHeightForSideLabels = 400;
 constexpr int kWidthForBottomLabels = 340;
@@ -31,6 +34,7 @@ CMainWindow::CMainWindow(const IClock& clock, const ITexts& texts)
     setObjectName("mainWindow");
     setWindowTitle(ToQString(texts.Text(kTextAppName)));
     setMinimumSize(kSmallestWidth, kSmallestHeight);
+    resize(kFirstWidth, kFirstHeight);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     m_titleBar->SetMenu(&m_menu, ToQString(texts.Text(kTextMenu)));
@@ -71,7 +75,7 @@ bool CMainWindow::ShowScreen(int index) {
     m_row->SetCurrent(index);
     m_titleBar->SetTitle(ToQString(m_texts.Text(Current()->TitleText())));
     Current()->setFocus(Qt::OtherFocusReason);
-    Current()->Entered();
+    if (isVisible()) Current()->Entered();
     emit ScreenShown(index);
     return true;
 }
@@ -135,8 +139,13 @@ void CMainWindow::resizeEvent(QResizeEvent* /*event*/) {
     Arrange();
 }
 
-void CMainWindow::showEvent(QShowEvent* /*event*/) {
+void CMainWindow::showEvent(QShowEvent* event) {
     RunTickerWhenSeen();
+    if (event->spontaneous()) return;
+    // Once the window stands there: what a screen has to say at first must not come before it.
+    QTimer::singleShot(0, this, [this] {
+        if (CScreen* screen = Current()) screen->Entered();
+    });
 }
 
 void CMainWindow::hideEvent(QHideEvent* /*event*/) {
