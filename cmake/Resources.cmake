@@ -4,8 +4,8 @@
 find_program(RLX_WINDRES x86_64-w64-mingw32-windres REQUIRED)
 find_program(RLX_PE_LD x86_64-w64-mingw32-ld REQUIRED)
 
-set(RLX_RESOURCE_HEADERS
-    ${CMAKE_SOURCE_DIR}/src/shell/text_ids.h
+file(GLOB_RECURSE text_ids CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/text_ids.h)
+set(RLX_RESOURCE_HEADERS ${text_ids}
     ${CMAKE_SOURCE_DIR}/src/shell/command_ids.h
     ${CMAKE_SOURCE_DIR}/src/shell/control_ids.h)
 set(RLX_RESOURCE_IDS ${CMAKE_BINARY_DIR}/generated/resources/ids.h)

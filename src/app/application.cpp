@@ -2,9 +2,11 @@
 
 #include <QPlainTextEdit>
 
+#include "app/text_ids.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "map/ui/sun_details.h"
+#include "places/text_ids.h"
 #include "places/ui/city_chooser.h"
 #include "shell/clock_settings.h"
 #include "shell/command_ids.h"
@@ -13,6 +15,7 @@
 #include "shell/program_paths.h"
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
+#include "shell/text_ids.h"
 #include "tools/clothing/ui/clothing_tool.h"
 #include "tools/converter/ui/converter_tool.h"
 #include "tools/dialing/ui/dialing_tool.h"

@@ -6,9 +6,11 @@
 #include <QScreen>
 
 #include "base/text.h"
+#include "currency/text_ids.h"
 #include "feeds/feed_address.h"
 #include "feeds/http_url.h"
 #include "feeds/news_fetch.h"
+#include "feeds/text_ids.h"
 #include "platform/posix/machine_connections.h"
 #include "platform/posix/machine_info.h"
 #include "shell/boxes.h"

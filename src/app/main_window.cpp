@@ -6,6 +6,9 @@
 #include <QTimer>
 #include <QWindowStateChangeEvent>
 
+#include "app/text_ids.h"
+#include "news/text_ids.h"
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

@@ -3,9 +3,13 @@
 #include <QFileDialog>
 
 #include "base/text.h"
+#include "cli/text_ids.h"
+#include "map/text_ids.h"
 #include "shell/fill_text.h"
 #include "shell/setting_names.h"
+#include "shell/text_ids.h"
 #include "skins/skin_loader.h"
+#include "skins/text_ids.h"
 #include "skins/ui/skin_chooser.h"
 #include "skins/ui/skin_editor.h"
 #include "uikit/qt_text.h"

@@ -5,6 +5,7 @@
 #include "cli/commands.h"
 #include "places/city_info.h"
 #include "places/city_search.h"
+#include "shell/text_ids.h"
 
 namespace rlx::cli {
 

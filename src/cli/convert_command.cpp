@@ -4,7 +4,9 @@
 #include "base/text.h"
 #include "cli/commands.h"
 #include "shell/boxes.h"
+#include "shell/text_ids.h"
 #include "tools/converter/conversion.h"
+#include "tools/converter/text_ids.h"
 #include "tools/converter/unit_database.h"
 #include "tools/converter/unit_search.h"
 

@@ -1,5 +1,6 @@
 #include "base/text.h"
 #include "cli/commands.h"
+#include "shell/text_ids.h"
 
 namespace rlx::cli {
 

@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "cli/commands.h"
+#include "shell/text_ids.h"
 #include "tools/dialing/dialing.h"
 
 namespace rlx::cli {

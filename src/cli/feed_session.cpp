@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "feeds/feed_address.h"
 #include "feeds/http_url.h"
+#include "feeds/text_ids.h"
 #include "platform/offline_connection_manager.h"
 #include "platform/posix/machine_connections.h"
 #include "platform/posix/machine_info.h"

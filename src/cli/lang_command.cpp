@@ -2,6 +2,7 @@
 
 #include "base/number.h"
 #include "cli/commands.h"
+#include "cli/text_ids.h"
 
 namespace rlx::cli {
 

@@ -5,9 +5,13 @@
 #include "cli/commands.h"
 #include "cli/feed_session.h"
 #include "currency/currency_convert.h"
+#include "currency/text_ids.h"
 #include "feeds/currency_database.h"
 #include "feeds/rates_origin.h"
 #include "feeds/rates_update.h"
+#include "shell/text_ids.h"
+#include "tools/converter/text_ids.h"
+#include "weather/text_ids.h"
 
 namespace rlx::cli {
 

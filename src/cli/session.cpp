@@ -4,6 +4,7 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "cli/text_ids.h"
 #include "places/city_search.h"
 #include "platform/posix/frozen_clock.h"
 #include "platform/posix/posix_file_system.h"
@@ -11,6 +12,7 @@
 #include "shell/fill_text.h"
 #include "shell/program_paths.h"
 #include "shell/store_message.h"
+#include "shell/text_ids.h"
 
 namespace rlx::cli {
 

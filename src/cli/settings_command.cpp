@@ -5,6 +5,7 @@
 #include "base/number.h"
 #include "base/text.h"
 #include "cli/commands.h"
+#include "cli/text_ids.h"
 #include "platform/registry_value.h"
 #include "shell/setting_names.h"
 

@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "cli/commands.h"
 #include "tools/clothing/clothing_page.h"
+#include "tools/clothing/text_ids.h"
 
 namespace rlx::cli {
 

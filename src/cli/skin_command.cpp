@@ -2,11 +2,14 @@
 
 #include "base/text.h"
 #include "cli/commands.h"
+#include "cli/text_ids.h"
 #include "shell/setting_names.h"
+#include "shell/text_ids.h"
 #include "skins/skin_file.h"
 #include "skins/skin_list.h"
 #include "skins/skin_loader.h"
 #include "skins/skin_validator.h"
+#include "skins/text_ids.h"
 
 namespace rlx::cli {
 

@@ -3,6 +3,8 @@
 #include "astro/rise_set.h"
 #include "cli/commands.h"
 #include "map/city_sun.h"
+#include "map/text_ids.h"
+#include "shell/text_ids.h"
 
 namespace rlx::cli {
 

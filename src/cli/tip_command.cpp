@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "cli/commands.h"
+#include "tools/tiptax/text_ids.h"
 #include "tools/tiptax/tip_calculator.h"
 
 namespace rlx::cli {

@@ -2,6 +2,8 @@
 
 #include "base/text.h"
 #include "cli/commands.h"
+#include "shell/text_ids.h"
+#include "tools/converter/text_ids.h"
 #include "tools/converter/unit_database.h"
 #include "tools/converter/unit_editor.h"
 

@@ -9,7 +9,9 @@
 #include "feeds/reply_body.h"
 #include "feeds/reply_headers.h"
 #include "feeds/server_verdict.h"
+#include "feeds/text_ids.h"
 #include "shell/setting_names.h"
+#include "shell/text_ids.h"
 
 namespace rlx {
 

@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "base/text.h"
+#include "feeds/text_ids.h"
 #include "shell/setting_names.h"
+#include "shell/text_ids.h"
 
 namespace rlx {
 

@@ -5,7 +5,9 @@
 #include "feeds/http_url.h"
 #include "feeds/iso_day.h"
 #include "feeds/rates_reply.h"
+#include "feeds/text_ids.h"
 #include "shell/setting_names.h"
+#include "shell/text_ids.h"
 
 namespace rlx {
 

@@ -1,5 +1,7 @@
 #include "feeds/server_verdict.h"
 
+#include "feeds/text_ids.h"
+
 namespace rlx {
 
 ServerVerdict JudgeReply(int status, std::u16string_view serverCode, const ITexts& texts) {

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "map/text_ids.h"
+
 namespace rlx {
 namespace {
 

@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "feeds/news_fetch.h"
+#include "news/text_ids.h"
 #include "shell/setting_names.h"
 
 namespace rlx {

@@ -4,6 +4,8 @@
 
 #include "base/number.h"
 #include "places/city_file.h"
+#include "places/text_ids.h"
+#include "shell/text_ids.h"
 
 namespace rlx {
 

@@ -1,6 +1,7 @@
 #include "places/city_time.h"
 
 #include "base/number.h"
+#include "places/text_ids.h"
 
 namespace rlx {
 

@@ -1,5 +1,7 @@
 #include "shell/boxes.h"
 
+#include "shell/text_ids.h"
+
 namespace rlx {
 
 MessageBox ErrorBox(const ITexts& texts, std::u16string_view text) {

@@ -1,6 +1,7 @@
 #include "shell/clock_text.h"
 
 #include "base/number.h"
+#include "shell/text_ids.h"
 
 namespace rlx {
 

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
 
 namespace rlx {
 

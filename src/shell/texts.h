@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "shell/text_ids.h"
+#include "shell/text_id.h"
 
 namespace rlx {
 
@@ -12,7 +12,7 @@ public:
     virtual ~ITexts() = default;
 
     /// The text of that number; empty when the table has none.
-    virtual std::u16string Text(int id) const = 0;
+    virtual std::u16string Text(TextId id) const = 0;
 };
 
 }  // namespace rlx

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "skins/skin.h"
 #include "skins/skin_file.h"
+#include "skins/text_ids.h"
 
 namespace rlx {
 namespace {

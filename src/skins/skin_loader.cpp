@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "base/text.h"
+#include "shell/text_ids.h"
 #include "skins/skin_file.h"
+#include "skins/text_ids.h"
 
 namespace rlx {
 namespace {

@@ -7,6 +7,7 @@
 #include "shell/fill_text.h"
 #include "skins/icon_set.h"
 #include "skins/skin_file.h"
+#include "skins/text_ids.h"
 
 namespace rlx {
 namespace {

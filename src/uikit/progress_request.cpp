@@ -10,6 +10,7 @@
 #include <string>
 #include <thread>
 
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

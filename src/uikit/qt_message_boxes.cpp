@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

@@ -1,4 +1,4 @@
-#include "shell/text_ids.h"
+#include "weather/text_ids.h"
 #include "weather/weather_code.h"
 
 namespace rlx {

@@ -3,8 +3,11 @@
 #include <cmath>
 
 #include "base/number.h"
+#include "places/text_ids.h"
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
 #include "weather/feed_fields.h"
+#include "weather/text_ids.h"
 #include "weather/weather_code.h"
 #include "weather/wind.h"
 

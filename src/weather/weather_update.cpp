@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include "feeds/text_ids.h"
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
+#include "weather/text_ids.h"
 #include "weather/weather_places.h"
 
 namespace rlx {

@@ -1,6 +1,6 @@
 #include "weather/wind.h"
 
-#include "shell/text_ids.h"
+#include "weather/text_ids.h"
 
 namespace rlx {
 

@@ -7,6 +7,7 @@
 #include "shell/english_image.h"
 #include "shell/resources.h"
 #include "shell/string_table.h"
+#include "shell/text_ids.h"
 #include "support/paths.h"
 
 namespace rlx {

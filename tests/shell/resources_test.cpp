@@ -3,14 +3,21 @@
 #include <set>
 
 #include "base/text.h"
-#include "support/enumerators.h"
+#include "feeds/text_ids.h"
+#include "shell/text_ids.h"
+#include "support/numbered_names.h"
+#include "tools/clothing/text_ids.h"
+#include "tools/converter/text_ids.h"
+#include "tools/packing/text_ids.h"
+#include "tools/tiptax/text_ids.h"
+#include "weather/text_ids.h"
 
 namespace rlx {
 namespace {
 
 TEST(ResourcesTest, EveryNumberedTextIsThereAndNumberedOnce) {
     const CResources resources;
-    const auto names = test::Enumerators("text_ids.h", "kText");
+    const auto names = test::NumberedNames("text_ids.h", "kText");
     ASSERT_GT(names.size(), 250U);
     std::set<int> seen;
     for (const auto& [name, number] : names) {

@@ -5,7 +5,7 @@
 #include "shell/control_ids.h"
 #include "shell/english_image.h"
 #include "shell/resources.h"
-#include "support/enumerators.h"
+#include "support/numbered_names.h"
 
 namespace rlx {
 namespace {
@@ -56,7 +56,7 @@ TEST(MenuTest, PackingListMenuReadsAsAgreed) {
 
 TEST(MenuTest, EveryCommandStandsInOneMenu) {
     std::multiset<int> inMenus;
-    for (const auto& [name, number] : test::Enumerators("command_ids.h", "kMenu")) {
+    for (const auto& [name, number] : test::NumberedNames("command_ids.h", "kMenu")) {
         const auto menu = CResources().Menu(number);
         ASSERT_TRUE(menu) << name;
         std::string lines;
@@ -64,7 +64,7 @@ TEST(MenuTest, EveryCommandStandsInOneMenu) {
         Flatten(*menu, "", lines, ids);
         inMenus.insert(ids.begin(), ids.end());
     }
-    const auto commands = test::Enumerators("command_ids.h", "kCommand");
+    const auto commands = test::NumberedNames("command_ids.h", "kCommand");
     for (const auto& [name, number] : commands)
         EXPECT_EQ(inMenus.count(number), 1U) << name;
     EXPECT_EQ(inMenus.size(), commands.size());
@@ -92,7 +92,7 @@ TEST(MenuTest, BrokenMenusAreRefused) {
 
 TEST(DialogTest, EveryControlStandsInADialogThatHoldsIt) {
     std::set<int> inDialogs;
-    for (const auto& [name, number] : test::Enumerators("control_ids.h", "kDialog")) {
+    for (const auto& [name, number] : test::NumberedNames("control_ids.h", "kDialog")) {
         const auto dialog = CResources().Dialog(number);
         ASSERT_TRUE(dialog) << name;
         EXPECT_NE(dialog->title, u"") << name;
@@ -109,7 +109,7 @@ TEST(DialogTest, EveryControlStandsInADialogThatHoldsIt) {
         EXPECT_EQ(defaults, 1) << name;
         inDialogs.insert(own.begin(), own.end());
     }
-    for (const auto& [name, number] : test::Enumerators("control_ids.h", "kControl")) {
+    for (const auto& [name, number] : test::NumberedNames("control_ids.h", "kControl")) {
         EXPECT_TRUE(inDialogs.contains(number)) << name;
     }
 }

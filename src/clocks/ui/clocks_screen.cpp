@@ -10,9 +10,12 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "clocks/text_ids.h"
+#include "places/text_ids.h"
 #include "shell/command_ids.h"
 #include "shell/fill_text.h"
 #include "shell/setting_names.h"
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

@@ -14,6 +14,7 @@
 #include "shell/clock_text.h"
 #include "shell/registry_store.h"
 #include "shell/resources.h"
+#include "shell/text_ids.h"
 #include "uikit/look.h"
 #include "uikit/screen.h"
 #include "uikit/template_menu.h"

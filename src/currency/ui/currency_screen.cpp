@@ -3,7 +3,9 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "currency/text_ids.h"
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
 #include "skins/skin_file.h"
 #include "uikit/icons.h"
 #include "uikit/page_palette.h"

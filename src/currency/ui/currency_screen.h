@@ -11,6 +11,7 @@
 #include "feeds/rates_origin.h"
 #include "feeds/rates_update.h"
 #include "platform/clock.h"
+#include "shell/text_ids.h"
 #include "uikit/look.h"
 #include "uikit/screen.h"
 

@@ -9,7 +9,9 @@
 
 #include "currency/currency_convert.h"
 #include "currency/currency_search.h"
+#include "currency/text_ids.h"
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
 #include "uikit/icons.h"
 #include "uikit/page_palette.h"
 #include "uikit/qt_text.h"

@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "map/text_ids.h"
 #include "shell/fill_text.h"
 #include "shell/setting_names.h"
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

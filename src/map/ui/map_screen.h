@@ -16,6 +16,7 @@
 #include "platform/message_boxes.h"
 #include "shell/clock_text.h"
 #include "shell/registry_store.h"
+#include "shell/text_ids.h"
 #include "uikit/screen.h"
 
 namespace rlx {

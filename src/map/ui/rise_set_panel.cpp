@@ -4,7 +4,9 @@
 #include <QPainterPath>
 #include <algorithm>
 
+#include "map/text_ids.h"
 #include "map/ui/fitted_text.h"
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

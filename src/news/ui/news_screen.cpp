@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "base/text.h"
+#include "news/text_ids.h"
 #include "shell/boxes.h"
 #include "shell/fill_text.h"
 #include "uikit/icons.h"

@@ -8,6 +8,7 @@
 #include "news/news_page.h"
 #include "news/ui/news_view.h"
 #include "platform/message_boxes.h"
+#include "shell/text_ids.h"
 #include "uikit/look.h"
 #include "uikit/screen.h"
 

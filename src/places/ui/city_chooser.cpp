@@ -5,7 +5,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "places/text_ids.h"
 #include "shell/control_ids.h"
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

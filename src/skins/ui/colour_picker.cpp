@@ -6,6 +6,7 @@
 #include <QRegularExpressionValidator>
 
 #include "shell/control_ids.h"
+#include "skins/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

@@ -7,8 +7,10 @@
 #include "base/text.h"
 #include "shell/control_ids.h"
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
 #include "skins/skin_file.h"
 #include "skins/skin_loader.h"
+#include "skins/text_ids.h"
 #include "skins/ui/skin_preview.h"
 #include "uikit/qt_text.h"
 

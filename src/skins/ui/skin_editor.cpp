@@ -9,7 +9,9 @@
 #include "shell/control_ids.h"
 #include "shell/device_path.h"
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
 #include "skins/icon_set.h"
+#include "skins/text_ids.h"
 #include "skins/ui/colour_picker.h"
 #include "uikit/qt_text.h"
 

@@ -3,9 +3,9 @@
 #include <QFont>
 
 #include "platform/bitmap.h"
-#include "shell/text_ids.h"
 #include "skins/icon_set.h"
 #include "skins/skin_file.h"
+#include "skins/text_ids.h"
 #include "skins/ui/skin_preview.h"
 #include "uikit/qt_text.h"
 

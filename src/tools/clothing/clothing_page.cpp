@@ -4,6 +4,7 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "tools/clothing/text_ids.h"
 
 namespace rlx {
 

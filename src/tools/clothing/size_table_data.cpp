@@ -1,4 +1,5 @@
 #include "tools/clothing/size_tables.h"
+#include "tools/clothing/text_ids.h"
 
 namespace rlx {
 

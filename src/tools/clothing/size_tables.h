@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "shell/text_ids.h"
+#include "shell/text_id.h"
 
 /// Twelve tables of equivalent clothing sizes, compiled in. Reference data, kept as it is.
 namespace rlx {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "base/number.h"
+#include "tools/converter/text_ids.h"
 
 namespace rlx {
 

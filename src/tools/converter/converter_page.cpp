@@ -6,6 +6,7 @@
 #include "base/number.h"
 #include "shell/boxes.h"
 #include "tools/converter/conversion.h"
+#include "tools/converter/text_ids.h"
 
 namespace rlx {
 

@@ -1,6 +1,7 @@
 #include "tools/converter/unit_category.h"
 
 #include "base/text.h"
+#include "tools/converter/text_ids.h"
 
 namespace rlx {
 

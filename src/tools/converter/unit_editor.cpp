@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "shell/boxes.h"
+#include "shell/text_ids.h"
+#include "tools/converter/text_ids.h"
 
 namespace rlx {
 

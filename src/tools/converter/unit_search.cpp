@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "tools/converter/text_ids.h"
 
 namespace rlx {
 

@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "tools/dialing/dialing_tables.h"
+#include "tools/dialing/text_ids.h"
 
 namespace rlx {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "shell/text_ids.h"
+#include "shell/text_id.h"
 
 /// Dialing and area codes as the page and the command line show them. Pure functions, any thread.
 namespace rlx {

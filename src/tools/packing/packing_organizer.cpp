@@ -4,6 +4,8 @@
 
 #include "base/text.h"
 #include "shell/boxes.h"
+#include "shell/text_ids.h"
+#include "tools/packing/text_ids.h"
 
 namespace rlx {
 

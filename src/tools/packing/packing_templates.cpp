@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/text.h"
+#include "tools/packing/text_ids.h"
 
 namespace rlx {
 

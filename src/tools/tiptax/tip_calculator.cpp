@@ -4,6 +4,7 @@
 
 #include "base/number.h"
 #include "shell/boxes.h"
+#include "tools/tiptax/text_ids.h"
 
 namespace rlx {
 

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "shell/setting_names.h"
+#include "tools/ui/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

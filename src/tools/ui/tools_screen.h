@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "shell/registry_store.h"
+#include "shell/text_ids.h"
 #include "shell/texts.h"
 #include "tools/ui/tool_header.h"
 #include "tools/ui/tool_list.h"

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "uikit/qt_text.h"
+#include "weather/text_ids.h"
 #include "weather/ui/fitted_text.h"
 
 namespace rlx {

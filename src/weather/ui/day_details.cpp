@@ -3,7 +3,9 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
+#include "weather/text_ids.h"
 #include "weather/ui/fitted_text.h"
 
 namespace rlx {

@@ -4,7 +4,9 @@
 
 #include "base/number.h"
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
+#include "weather/text_ids.h"
 
 namespace rlx {
 

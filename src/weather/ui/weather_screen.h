@@ -8,6 +8,7 @@
 
 #include "platform/message_boxes.h"
 #include "shell/resources.h"
+#include "shell/text_ids.h"
 #include "uikit/screen.h"
 #include "uikit/template_menu.h"
 #include "weather/place_forecast.h"

@@ -4,8 +4,10 @@
 #include <algorithm>
 
 #include "base/number.h"
+#include "places/text_ids.h"
 #include "shell/fill_text.h"
 #include "uikit/qt_text.h"
+#include "weather/text_ids.h"
 #include "weather/ui/fitted_text.h"
 
 namespace rlx {

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "support/number_texts.h"
 #include "tools/clothing/clothing_page.h"
+#include "tools/clothing/text_ids.h"
 
 namespace rlx {
 namespace {

@@ -8,6 +8,7 @@
 #include "support/memory_files.h"
 #include "support/number_texts.h"
 #include "tools/packing/packing_templates.h"
+#include "tools/packing/text_ids.h"
 
 namespace rlx {
 namespace {

@@ -11,6 +11,7 @@
 #include "shell/command_ids.h"
 #include "shell/control_ids.h"
 #include "support/memory_files.h"
+#include "tools/packing/text_ids.h"
 #include "tools/packing/ui/add_items_dialog.h"
 #include "tools/packing/ui/packing_dialogs.h"
 

@@ -3,6 +3,9 @@
 #include <QTest>
 
 #include "shell/setting_names.h"
+#include "tools/clothing/text_ids.h"
+#include "tools/converter/text_ids.h"
+#include "tools/dialing/text_ids.h"
 #include "ui/tools/tools_test_device.h"
 
 namespace rlx {

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "tools/clothing/text_ids.h"
 #include "uikit/page_palette.h"
 #include "uikit/qt_text.h"
 

@@ -9,6 +9,7 @@
 
 #include "shell/texts.h"
 #include "tools/clothing/clothing_page.h"
+#include "tools/clothing/text_ids.h"
 #include "tools/clothing/ui/size_table_view.h"
 #include "uikit/tool_page.h"
 

@@ -6,6 +6,8 @@
 #include <QToolTip>
 
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
+#include "tools/converter/text_ids.h"
 #include "tools/converter/ui/unit_dialog.h"
 #include "tools/converter/unit_search.h"
 #include "uikit/icons.h"

@@ -10,6 +10,7 @@
 #include "platform/object_store.h"
 #include "shell/resources.h"
 #include "tools/converter/converter_page.h"
+#include "tools/converter/text_ids.h"
 #include "tools/converter/ui/converter_layout.h"
 #include "tools/converter/unit_database.h"
 #include "uikit/search_combo.h"

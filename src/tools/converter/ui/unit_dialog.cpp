@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "shell/control_ids.h"
+#include "tools/converter/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

@@ -6,6 +6,8 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "shell/text_ids.h"
+#include "tools/dialing/text_ids.h"
 #include "uikit/page_palette.h"
 #include "uikit/qt_text.h"
 

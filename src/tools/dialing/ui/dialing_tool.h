@@ -7,6 +7,7 @@
 #include <array>
 
 #include "shell/texts.h"
+#include "tools/dialing/text_ids.h"
 #include "tools/dialing/ui/dialing_model.h"
 #include "uikit/tool_page.h"
 

@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "shell/control_ids.h"
+#include "tools/packing/text_ids.h"
 #include "tools/packing/ui/add_items_dialog.h"
 #include "tools/packing/ui/check_list.h"
 #include "uikit/qt_text.h"

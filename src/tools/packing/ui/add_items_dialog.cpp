@@ -6,6 +6,7 @@
 
 #include "shell/control_ids.h"
 #include "tools/packing/packing_templates.h"
+#include "tools/packing/text_ids.h"
 #include "tools/packing/ui/add_from_all_dialog.h"
 #include "tools/packing/ui/check_list.h"
 #include "uikit/qt_text.h"

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "shell/control_ids.h"
 #include "tools/packing/packing_lists.h"
+#include "tools/packing/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {

@@ -8,6 +8,7 @@
 #include "base/number.h"
 #include "shell/command_ids.h"
 #include "shell/fill_text.h"
+#include "tools/packing/text_ids.h"
 #include "tools/packing/ui/add_items_dialog.h"
 #include "tools/packing/ui/packing_dialogs.h"
 #include "uikit/icons.h"

@@ -9,6 +9,7 @@
 #include "platform/message_boxes.h"
 #include "shell/resources.h"
 #include "tools/packing/packing_organizer.h"
+#include "tools/packing/text_ids.h"
 #include "tools/packing/ui/packing_bar.h"
 #include "tools/packing/ui/packing_item_model.h"
 #include "tools/packing/ui/packing_list_view.h"

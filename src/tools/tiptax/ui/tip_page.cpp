@@ -8,6 +8,7 @@
 #include "base/number.h"
 #include "shell/fill_text.h"
 #include "tools/tiptax/bill_split.h"
+#include "tools/tiptax/text_ids.h"
 #include "uikit/icons.h"
 #include "uikit/page_palette.h"
 #include "uikit/qt_text.h"

@@ -6,6 +6,7 @@
 
 #include "platform/message_boxes.h"
 #include "shell/texts.h"
+#include "tools/tiptax/text_ids.h"
 #include "tools/tiptax/tip_calculator.h"
 #include "tools/tiptax/ui/fitted_label.h"
 #include "tools/tiptax/ui/number_field.h"

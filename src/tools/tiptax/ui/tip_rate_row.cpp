@@ -1,5 +1,6 @@
 #include "tools/tiptax/ui/tip_rate_row.h"
 
+#include "tools/tiptax/text_ids.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {
