@@ -66,5 +66,13 @@ inline constexpr TextId kTextNotALanguageModule = 41404;
 inline constexpr TextId kTextLanguageInstalled = 41405;
 inline constexpr TextId kTextNoModulesInFolder = 41406;
 inline constexpr TextId kTextChooseModuleFolder = 41407;
+inline constexpr TextId kTextBuiltInLanguage = 41410;
+inline constexpr TextId kTextLanguageIsInstalled = 41411;
+inline constexpr TextId kTextModuleNameRefused = 41412;
+inline constexpr TextId kTextLanguageListFull = 41413;
+inline constexpr TextId kTextModuleNotInstalled = 41414;
+inline constexpr TextId kTextModuleNotRemovable = 41415;
+inline constexpr TextId kTextModuleNotRemoved = 41416;
+inline constexpr TextId kTextNoSuchLanguage = 41417;
 
 }  // namespace rlx
