@@ -16,6 +16,7 @@
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
 #include "shell/text_ids.h"
+#include "today/ui/today_dialog.h"
 #include "tools/clothing/ui/clothing_tool.h"
 #include "tools/converter/ui/converter_tool.h"
 #include "tools/dialing/ui/dialing_tool.h"
@@ -166,6 +167,8 @@ void CApplication::MakeCommands() {
     m_commands.Add(kCommandOwnerName, this, [this] { m_feeds->AskOwnerName(); });
     m_commands.Add(kCommandChooseSkin, this, [this] { m_skins->Choose(); });
     m_commands.Add(kCommandEditSkin, this, [this] { m_skins->Edit(); });
+    m_commands.Add(kCommandTodayOptions, this,
+                   [this] { CTodayDialog(*m_settings, m_resources, m_window.get()).exec(); });
     m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });
     m_commands.Add(kCommandAbout, this, [this] { ShowAbout(); });
     m_commands.Add(kCommandExit, this, [this] { m_window->close(); })->setShortcut(QKeySequence::Quit);
