@@ -136,7 +136,7 @@ void CApplication::OpenSunDetails(const CitySunDetails& details) {
 
 void CApplication::MakeTools() {
     m_toolsScreen = new CToolsScreen(*m_settings, m_resources, m_look);
-    m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), m_resources, m_boxes, m_look));
+    m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), *m_settings, m_resources, m_boxes, m_look));
     m_toolsScreen->AddPage(new CDialingTool(m_resources, m_look));
     m_toolsScreen->AddPage(new CClothingTool(m_resources, m_look));
     m_toolsScreen->AddPage(new CPackingPage(m_files, m_folder->Root(), m_resources, m_boxes, m_look));
