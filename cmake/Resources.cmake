@@ -50,3 +50,15 @@ function(rlx_language name)
     rlx_resource_image(${name} ${module})
     add_custom_target(language_${name} ALL DEPENDS ${module})
 endfunction()
+
+# What a translator starts from, beside the programs (docs/guide/translating.md).
+function(rlx_translators_kit)
+    set(kit ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/translate)
+    set(files ${CMAKE_SOURCE_DIR}/resources/English.rc ${CMAKE_SOURCE_DIR}/resources/styles.h ${RLX_RESOURCE_IDS})
+    add_custom_command(
+        OUTPUT ${kit}/ids.h ${kit}/English.rc ${kit}/styles.h
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${kit}
+        COMMAND ${CMAKE_COMMAND} -E copy ${files} ${kit}
+        DEPENDS ${files} VERBATIM)
+    add_custom_target(translators_kit ALL DEPENDS ${kit}/ids.h)
+endfunction()

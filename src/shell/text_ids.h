@@ -51,6 +51,7 @@ inline constexpr TextId kTextCopyResult = 40711;
 
 inline constexpr TextId kTextWaitingForReply = 41206;
 inline constexpr TextId kTextReceiving = 41207;
+inline constexpr TextId kTextNoSuchFolder = 41311;
 
 inline constexpr TextId kTextRestartForLanguage = 41400;
 inline constexpr TextId kTextLanguageNotLoaded = 41401;
