@@ -6,6 +6,8 @@
 
 #include "base/text.h"
 
+template class nlohmann::basic_json<nlohmann::ordered_map>;
+
 namespace rlx::cli {
 
 namespace {

@@ -7,6 +7,9 @@
 
 #include "cli/console_message_boxes.h"
 
+// Compiled once, in answer.cpp: it is large, and every command uses it.
+extern template class nlohmann::basic_json<nlohmann::ordered_map>;
+
 namespace rlx::cli {
 
 /// Keeps the order in which members were set.
