@@ -86,7 +86,7 @@ void CFeedWiring::AddCurrencyScreen() {
 void CFeedWiring::AddNewsScreen() {
     const auto openLink = [](const QUrl& link) { QDesktopServices::openUrl(link); };
     m_newsScreen =
-        new CNewsScreen(m_newsPage, m_ports.resources, m_ports.boxes, m_ports.look, openLink);
+        new CNewsScreen(m_newsPage, {m_ports.clock, m_ports.resources, m_ports.boxes, m_ports.look}, openLink);
     m_newsIndex = m_ports.window.AddScreen(m_newsScreen, false);
     QObject::connect(m_newsScreen, &CNewsScreen::FetchChosen, [this] { FetchNews(); });
     QObject::connect(m_newsScreen, &CNewsScreen::PageShown, [this] { ShowNewsState(); });
@@ -147,7 +147,7 @@ void CFeedWiring::UpdateRates() {
 void CFeedWiring::FetchNews() {
     NewsFetchResult result;
     WithServer(kTextFetchingNews, [&](const FeedPorts& ports, CProgressRequest&, const std::u16string& url) {
-        CNewsFetch fetch(ports, m_ports.files, m_ports.folder.Root());
+        CNewsFetch fetch(ports, m_ports.files, m_ports.clock, m_ports.folder.Root());
         result = fetch.Fetch(url, Parameters().NewsParameters());
     });
     if (!result.saved) return;
