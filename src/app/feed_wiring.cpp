@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <utility>
 
+#include "app/network_names.h"
 #include "base/text.h"
 #include "currency/text_ids.h"
 #include "feeds/feed_address.h"
@@ -119,8 +120,10 @@ void CFeedWiring::WithServer(int title, const Request& request) {
         return;
     }
     const std::optional<HttpUrl> address = ParseHttpUrl(url);
+    CNetworkNames names;
     CMachineConnections connections(address ? address->host : std::string(),
-                                    m_ports.resources.Text(kTextLoopbackNetwork));
+                                    m_ports.resources.Text(kTextLoopbackNetwork),
+                                    [&names](const std::string& network) { return names.NameOf(network); });
     CProgressRequest progress(m_http, m_ports.resources, &m_ports.window, ToQString(m_ports.resources.Text(title)));
     request({progress, connections, m_ports.registry, m_ports.boxes, m_ports.resources}, progress, url);
     ShowNewsState();
