@@ -11,7 +11,6 @@
 #include <iostream>
 #include <mutex>
 
-#include "feeds/rates_list.h"
 #include "feedserver/http_listener.h"
 #include "feedserver/refresher.h"
 #include "feedserver/server_config.h"
@@ -52,14 +51,16 @@ bool HasGivenSocket() {
     return pid != nullptr && count != nullptr && std::to_string(getpid()) == pid && std::string_view(count) == "1";
 }
 
-/// Where the data lie: beside the program, or where they are installed with it.
-std::filesystem::path OwnData() {
+/// Beside the program, else where an installation keeps the data of all three programs.
+std::filesystem::path OwnFolder() {
     std::error_code error;
     const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
     if (error) return ".";
-    const std::filesystem::path folder = self.parent_path();
-    if (std::filesystem::exists(folder / kRatesListFile, error)) return folder;
-    return folder.parent_path() / "share" / "roamlytix";
+    const std::filesystem::path beside = self.parent_path();
+    const std::filesystem::path installed = beside.parent_path() / "share" / "roamlytix";
+    return !std::filesystem::exists(beside / "cities.lst", error) && std::filesystem::is_directory(installed, error)
+               ? installed
+               : beside;
 }
 
 /// Refreshes until somebody asks the program to end.
@@ -95,7 +96,7 @@ int Run(const Arguments& arguments, const ServerConfig& config, const ListenAddr
     CPosixFileSystem files;
     const CSystemClock clock;
     CKnowledgeBoard board;
-    const std::filesystem::path data = arguments.data.empty() ? OwnData() : std::filesystem::path(arguments.data);
+    const std::filesystem::path data = arguments.data.empty() ? OwnFolder() : std::filesystem::path(arguments.data);
     CRefresher refresher(files, board, config, data, LogLine);
     refresher.Begin();
     CPosixFileSystem weatherFiles;
