@@ -106,6 +106,8 @@ void CApplication::MakeScreens() {
     MakeTools();
     m_feeds->AddNewsScreen();
     connect(m_window.get(), &CMainWindow::ScreenShown, this, [this](int index) {
+        // News is a guest: at the next start the window opens on the screen of the row that was shown before it.
+        if (!m_window->IsInRow(index)) return;
         m_settings->WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kCurrentTab,
                                static_cast<std::uint32_t>(index));
     });
@@ -150,12 +152,9 @@ void CApplication::MakeWeather() {
     const CityChooser choose = [this](QWidget* parent, const QString& title, CityIndex current) {
         return ChooseCity(parent, title, current);
     };
-    const WeatherRequest request = [this](const std::u16string& feedName, const QSize& screen,
-                                          const std::function<bool()>& goOn) {
-        return m_feeds->Weather(feedName, screen, goOn);
-    };
+    const WithForecastServer withServer = [this](const auto& update) { m_feeds->WithForecasts(update); };
     m_weatherScreen = new CWeatherScreen({*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, m_files,
-                                          *m_weather, m_folder->Root(), choose, request});
+                                          *m_weather, m_folder->Root(), choose, withServer});
     m_window->AddScreen(m_weatherScreen);
 }
 
@@ -211,8 +210,8 @@ void CApplication::ToggleSetting(std::u16string_view key, std::u16string_view na
 
 void CApplication::RestoreScreen() {
     const std::uint32_t stored = m_settings->ReadDwordOr(keys::kRoamlytix, names::kCurrentTab, 0);
-    const bool known = stored < m_window->Screens().size();
-    m_window->ShowScreen(known ? static_cast<int>(stored) : 0);
+    const int index = stored < m_window->Screens().size() ? static_cast<int>(stored) : 0;
+    m_window->ShowScreen(m_window->IsInRow(index) ? index : 0);
 }
 
 /// Every screen paints anew when the look changes; dialogs and the frame take the palette.

@@ -4,7 +4,9 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QScreen>
+#include <utility>
 
+#include "app/network_names.h"
 #include "base/text.h"
 #include "currency/text_ids.h"
 #include "feeds/feed_address.h"
@@ -19,6 +21,7 @@
 #include "shell/setting_names.h"
 #include "uikit/qt_text.h"
 #include "uikit/template_dialog.h"
+#include "weather/text_ids.h"
 
 namespace rlx {
 
@@ -39,14 +42,27 @@ FeedDevice ThisDevice() {
     return device;
 }
 
-class CGoOnObserver : public IHttpObserver {
+/// One update of the weather.
+class CForecastServer : public IForecastServer {
 public:
-    explicit CGoOnObserver(const std::function<bool()>& goOn) : m_goOn(goOn) {}
+    CForecastServer(const FeedPorts& ports, CProgressRequest& progress, std::u16string url, CFeedParameters parameters)
+        : m_client(ports, Confirmation::kOnce),
+          m_progress(progress),
+          m_url(std::move(url)),
+          m_parameters(std::move(parameters)) {}
 
-    bool GoOn(const HttpProgress& /*progress*/) override { return m_goOn(); }
+    FeedReply Ask(const std::u16string& feedName, const QSize& screen) override {
+        const PixelSize area{screen.width(), screen.height()};
+        return m_client.PostFeedRequest(m_url, m_parameters.WeatherParameters(feedName, area), false);
+    }
+    void SetSubject(const QString& text) override { m_progress.SetSubject(text); }
+    bool Cancelled() const override { return m_progress.Cancelled(); }
 
 private:
-    const std::function<bool()>& m_goOn;
+    CFeedClient m_client;
+    CProgressRequest& m_progress;
+    const std::u16string m_url;
+    const CFeedParameters m_parameters;
 };
 
 }  // namespace
@@ -70,7 +86,8 @@ void CFeedWiring::AddCurrencyScreen() {
 
 void CFeedWiring::AddNewsScreen() {
     const auto openLink = [](const QUrl& link) { QDesktopServices::openUrl(link); };
-    m_newsScreen = new CNewsScreen(m_newsPage, m_ports.resources, m_ports.boxes, m_ports.look, openLink);
+    m_newsScreen =
+        new CNewsScreen(m_newsPage, {m_ports.clock, m_ports.resources, m_ports.boxes, m_ports.look}, openLink);
     m_newsIndex = m_ports.window.AddScreen(m_newsScreen, false);
     QObject::connect(m_newsScreen, &CNewsScreen::FetchChosen, [this] { FetchNews(); });
     QObject::connect(m_newsScreen, &CNewsScreen::PageShown, [this] { ShowNewsState(); });
@@ -90,7 +107,10 @@ void CFeedWiring::ShowNewsState() {
 }
 
 CFeedParameters CFeedWiring::Parameters() {
-    return {m_ports.registry, ThisDevice(), [this] { AskOwnerName(); }};
+    return {m_ports.registry, ThisDevice(), [this, asked = false]() mutable {
+                // An empty name is an answer too.
+                if (!std::exchange(asked, true)) AskOwnerName();
+            }};
 }
 
 void CFeedWiring::WithServer(int title, const Request& request) {
@@ -100,25 +120,21 @@ void CFeedWiring::WithServer(int title, const Request& request) {
         return;
     }
     const std::optional<HttpUrl> address = ParseHttpUrl(url);
+    CNetworkNames names;
     CMachineConnections connections(address ? address->host : std::string(),
-                                    m_ports.resources.Text(kTextLoopbackNetwork));
+                                    m_ports.resources.Text(kTextLoopbackNetwork),
+                                    [&names](const std::string& network) { return names.NameOf(network); });
     CProgressRequest progress(m_http, m_ports.resources, &m_ports.window, ToQString(m_ports.resources.Text(title)));
     request({progress, connections, m_ports.registry, m_ports.boxes, m_ports.resources}, progress, url);
     ShowNewsState();
 }
 
-std::u16string CFeedWiring::Weather(const std::u16string& feedName, const QSize& screen,
-                                    const std::function<bool()>& goOn) {
-    const std::u16string url = FeedServerAddress(m_ports.files, m_ports.folder.Root());
-    const std::optional<HttpUrl> address = ParseHttpUrl(url);
-    CMachineConnections connections(address ? address->host : std::string(),
-                                    m_ports.resources.Text(kTextLoopbackNetwork));
-    CFeedClient client({m_http, connections, m_ports.registry, m_ports.boxes, m_ports.resources});
-    CGoOnObserver observer(goOn);
-    const std::u16string parameters = Parameters().WeatherParameters(feedName, {screen.width(), screen.height()});
-    const std::u16string body = client.PostFeedRequest(url, parameters, false, &observer).body;
-    ShowNewsState();
-    return body;
+void CFeedWiring::WithForecasts(const std::function<void(IForecastServer&)>& update) {
+    WithServer(kTextUpdatingWeather,
+               [&](const FeedPorts& ports, CProgressRequest& progress, const std::u16string& url) {
+                   CForecastServer server(ports, progress, url, Parameters());
+                   update(server);
+               });
 }
 
 void CFeedWiring::UpdateRates() {
@@ -134,7 +150,7 @@ void CFeedWiring::UpdateRates() {
 void CFeedWiring::FetchNews() {
     NewsFetchResult result;
     WithServer(kTextFetchingNews, [&](const FeedPorts& ports, CProgressRequest&, const std::u16string& url) {
-        CNewsFetch fetch(ports, m_ports.files, m_ports.folder.Root());
+        CNewsFetch fetch(ports, m_ports.files, m_ports.clock, m_ports.folder.Root());
         result = fetch.Fetch(url, Parameters().NewsParameters());
     });
     if (!result.saved) return;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QSize>
 #include <QString>
 #include <functional>
 #include <memory>
@@ -17,6 +16,7 @@
 #include "shell/application_folder.h"
 #include "shell/resources.h"
 #include "uikit/progress_request.h"
+#include "weather/ui/forecast_server.h"
 
 namespace rlx {
 
@@ -44,9 +44,9 @@ public:
     /// Makes the News page and lets the title bar's button lead to it. Comes after the screens of the row.
     void AddNewsScreen();
 
-    /// The server's reply to the weather request for a feed name, for a screen of that size; empty on any failure,
-    /// which was then reported. `goOn` is called many times a second; false ends the request.
-    std::u16string Weather(const std::u16string& feedName, const QSize& screen, const std::function<bool()>& goOn);
+    /// Lets the Weather screen talk to the feed server; what it asks during one call is one update, for which the user
+    /// is asked for the connection, and perhaps the owner's name, once.
+    void WithForecasts(const std::function<void(IForecastServer&)>& update);
 
     void UpdateRates();
     void FetchNews();

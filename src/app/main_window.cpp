@@ -135,7 +135,10 @@ void CMainWindow::RunTickerWhenSeen() {
 
 void CMainWindow::StepScreen(int by) {
     if (m_inRow == 0) return;
-    ShowScreen((m_stack->currentIndex() + by + m_inRow) % m_inRow);
+    // From a screen outside the row the step leads to one of its ends.
+    const int outside = by > 0 ? -1 : m_inRow;
+    const int from = IsInRow(m_stack->currentIndex()) ? m_stack->currentIndex() : outside;
+    ShowScreen((from + by + m_inRow) % m_inRow);
 }
 
 void CMainWindow::resizeEvent(QResizeEvent* /*event*/) {

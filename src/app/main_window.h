@@ -38,6 +38,9 @@ public:
     bool ShowScreen(int index);
     int CurrentIndex() const { return m_stack->currentIndex(); }
     CScreen* Current() const;
+
+    /// False for a screen outside the row, and for no screen at all.
+    bool IsInRow(int index) const { return index >= 0 && index < m_inRow; }
     const std::vector<CScreen*>& Screens() const { return m_screens; }
 
     /// The menu behind the menu button; its entries come from the caller.

@@ -30,7 +30,7 @@ int Fetch(CSession& session, CAnswer& answer) {
     const auto url = FeedAddress(session);
     if (!url) return kFailed;
     CFeedSession feed(session, *url);
-    CNewsFetch fetch(feed.Ports(), session.Files(), session.Folder().Root());
+    CNewsFetch fetch(feed.Ports(), session.Files(), session.Clock(), session.Folder().Root());
     const NewsFetchResult result = fetch.Fetch(*url, FeedParameters(session).NewsParameters());
     answer.Set("bytes", result.bytes);
     SetState(answer, NewsPage(session).State());

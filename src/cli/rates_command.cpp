@@ -7,6 +7,7 @@
 #include "currency/currency_convert.h"
 #include "currency/text_ids.h"
 #include "feeds/currency_database.h"
+#include "feeds/iso_day.h"
 #include "feeds/rates_origin.h"
 #include "feeds/rates_update.h"
 #include "shell/text_ids.h"
@@ -70,7 +71,7 @@ void ShowRates(CSession& session, CAnswer& answer, CRates& rates) {
 void ShowOrigin(CSession& session, CAnswer& answer) {
     const RatesOrigin origin =
         OriginOfRates(session.Registry(), ShippedRatesDate(session.Files(), session.Folder().Root()));
-    const std::u16string date = origin.date ? RatesDateText(*origin.date) : std::u16string();
+    const std::u16string date = origin.date ? ShownDay(*origin.date) : std::u16string();
     answer.Set("updated", ToJson(date));
     answer.Set("source", ToJson(origin.source));
     // The server does not say of which day its rates are, only when they came is known.

@@ -9,10 +9,10 @@ std::vector<PlaceUpdate> FetchWeather(CSession& session, CWeatherStore& store, C
     const auto address = FeedAddress(session);
     if (!address) return {};
     CFeedSession feed(session, *address);
-    CFeedClient client(feed.Ports());
+    CFeedClient client(feed.Ports(), Confirmation::kOnce);
     const CFeedParameters parameters = FeedParameters(session);
     const auto request = [&](const std::u16string& feedName) {
-        return client.PostFeedRequest(*address, parameters.WeatherParameters(feedName, {}), false).body;
+        return client.PostFeedRequest(*address, parameters.WeatherParameters(feedName, {}), false);
     };
     std::vector<std::u16string> places;
     for (const auto city : cities)

@@ -16,5 +16,6 @@ inline constexpr TextId kTextNoRates = 40507;
 inline constexpr TextId kTextAmountIn = 40509;
 inline constexpr TextId kTextNotAnAmount = 40510;
 inline constexpr TextId kTextUpdatingRates = 40511;
+inline constexpr TextId kTextRateCard = 40520;
 
 }  // namespace rlx

@@ -60,6 +60,7 @@ std::optional<Guid> CConnectionChooser::ChooseConnection(bool quiet, CHeldConnec
 
 bool CConnectionChooser::MayUse(const Destination& destination, bool quiet) {
     if (quiet) return true;
+    if (m_confirmation == Confirmation::kOnce && m_agreed == destination.guid) return true;
     const std::u16string agreed =
         m_settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kAgreedConnections);
     const std::u16string entry = GuidText(destination.guid) + u";";
@@ -77,6 +78,7 @@ bool CConnectionChooser::Ask(const Destination& destination) {
     box.buttons = BoxButtons::kYesNo;
     bool never = false;
     if (m_boxes.ShowWithCheck(box, m_texts.Text(kTextDontAskForConnection), never) != BoxAnswer::kYes) return false;
+    m_agreed = destination.guid;
     if (never) {
         const std::u16string agreed =
             m_settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kAgreedConnections);

@@ -27,12 +27,22 @@ private:
     std::vector<ConnectionHandle> m_handles;
 };
 
+/// How often the user is asked whether a connection may be used.
+enum class Confirmation {
+    kEachRequest,
+    kOnce,  ///< a yes counts for the following requests too: they are parts of one update
+};
+
 /// Picks the network for a request and asks the user whether it may be used.
 class CConnectionChooser {
 public:
     CConnectionChooser(IConnectionManager& connections, CRegistryStore& settings, IMessageBoxes& boxes,
-                       const ITexts& texts)
-        : m_connections(connections), m_settings(settings), m_boxes(boxes), m_texts(texts) {}
+                       const ITexts& texts, Confirmation confirmation = Confirmation::kEachRequest)
+        : m_connections(connections),
+          m_settings(settings),
+          m_boxes(boxes),
+          m_texts(texts),
+          m_confirmation(confirmation) {}
 
     /// The network to use, connected; nothing when there is none or the user said no, which was then reported. Asks
     /// only when not `quiet` and the user has not agreed to this connection for good.
@@ -53,6 +63,8 @@ private:
     CRegistryStore& m_settings;
     IMessageBoxes& m_boxes;
     const ITexts& m_texts;
+    const Confirmation m_confirmation;
+    std::optional<Guid> m_agreed;  ///< what the user said yes to last
 };
 
 }  // namespace rlx

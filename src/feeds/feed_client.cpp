@@ -36,8 +36,10 @@ bool IsRedirect(int status) {
 
 }  // namespace
 
-CFeedClient::CFeedClient(const FeedPorts& ports)
-    : m_ports(ports), m_settings(ports.registry), m_chooser(ports.connections, m_settings, ports.boxes, ports.texts) {}
+CFeedClient::CFeedClient(const FeedPorts& ports, Confirmation confirmation)
+    : m_ports(ports),
+      m_settings(ports.registry),
+      m_chooser(ports.connections, m_settings, ports.boxes, ports.texts, confirmation) {}
 
 FeedReply CFeedClient::PostFeedRequest(std::u16string_view url, std::u16string_view parameters, bool quiet,
                                        IHttpObserver* observer) {

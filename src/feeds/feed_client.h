@@ -44,7 +44,7 @@ struct FeedReply {
 /// outlives a call but the registry values "RXSI", "newsid", "newnews" (and "connok", when the user agrees for good).
 class CFeedClient {
 public:
-    explicit CFeedClient(const FeedPorts& ports);
+    explicit CFeedClient(const FeedPorts& ports, Confirmation confirmation = Confirmation::kEachRequest);
 
     /// `parameters`: the form-encoded string of a builder. `quiet`: no confirmation is asked and the reply's news
     /// identifier is stored; else it is compared with the stored one. `observer` may be null.

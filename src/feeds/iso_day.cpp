@@ -16,6 +16,10 @@ std::u16string IsoDay(const Date& date) {
     return FormatInteger(date.year) + u"-" + FormatTwoDigits(date.month) + u"-" + FormatTwoDigits(date.day);
 }
 
+std::u16string ShownDay(const Date& date) {
+    return FormatInteger(date.day) + u"/" + FormatInteger(date.month) + u"/" + FormatInteger(date.year);
+}
+
 std::optional<Date> ParseIsoDay(std::u16string_view text) {
     if (text.size() != 10 || text[4] != u'-' || text[7] != u'-') return std::nullopt;
     const std::u16string_view year = text.substr(0, 4);

@@ -6,10 +6,13 @@
 
 #include "base/calendar.h"
 
-/// Days as they are kept: "2026-09-29".
+/// Days as they are kept, "2026-09-29", and as they are shown, "29/9/2026".
 namespace rlx {
 
 std::u16string IsoDay(const Date& date);
+
+/// Day, month and year without leading zeros.
+std::u16string ShownDay(const Date& date);
 
 /// Nothing when it is not exactly that form, or no day of the calendar.
 std::optional<Date> ParseIsoDay(std::u16string_view text);

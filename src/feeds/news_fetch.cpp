@@ -3,14 +3,17 @@
 #include <utility>
 
 #include "base/text.h"
+#include "feeds/http_url.h"
+#include "feeds/iso_day.h"
 #include "feeds/text_ids.h"
 #include "shell/setting_names.h"
 #include "shell/text_ids.h"
 
 namespace rlx {
 
-CNewsFetch::CNewsFetch(const FeedPorts& ports, IFileSystem& files, std::filesystem::path applicationFolder)
-    : m_ports(ports), m_files(files), m_folder(std::move(applicationFolder)), m_client(ports) {}
+CNewsFetch::CNewsFetch(const FeedPorts& ports, IFileSystem& files, const IClock& clock,
+                       std::filesystem::path applicationFolder)
+    : m_ports(ports), m_files(files), m_clock(clock), m_folder(std::move(applicationFolder)), m_client(ports) {}
 
 NewsFetchResult CNewsFetch::Fetch(std::u16string_view url, std::u16string_view parameters, IHttpObserver* observer) {
     CRegistryStore settings(m_ports.registry);
@@ -31,9 +34,18 @@ NewsFetchResult CNewsFetch::Fetch(std::u16string_view url, std::u16string_view p
     result.saved = true;
     result.bytes = reply.body.size();
     settings.WriteDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsRead, 0);
+    Remember(url);
     m_ports.boxes.Show({m_ports.texts.Text(kTextAppName), m_ports.texts.Text(kTextYouHaveNews), BoxIcon::kInformation,
                         BoxButtons::kOk});
     return result;
+}
+
+void CNewsFetch::Remember(std::u16string_view url) {
+    CRegistryStore settings(m_ports.registry);
+    const std::optional<HttpUrl> address = ParseHttpUrl(url);
+    settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsDate, IsoDay(m_clock.Now().date));
+    settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsSource,
+                         address ? Widen(address->host) : std::u16string());
 }
 
 bool CNewsFetch::Save(std::u16string_view page) {

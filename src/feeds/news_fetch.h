@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "feeds/feed_client.h"
+#include "platform/clock.h"
 #include "platform/file_system.h"
 
 namespace rlx {
@@ -18,10 +19,12 @@ struct NewsFetchResult {
     std::size_t bytes = 0;  ///< its size
 };
 
-/// Fetches the news page into "news.htm", which is then byte for byte what the server sent, and keeps the news flags.
+/// Fetches the news page into "news.htm", which is then byte for byte what the server sent, and keeps the news flags
+/// and the day and the host that the page comes from.
 class CNewsFetch {
 public:
-    CNewsFetch(const FeedPorts& ports, IFileSystem& files, std::filesystem::path applicationFolder);
+    CNewsFetch(const FeedPorts& ports, IFileSystem& files, const IClock& clock,
+               std::filesystem::path applicationFolder);
 
     /// `parameters`: what `CFeedParameters::NewsParameters` made. A failure was reported when this returns; an empty
     /// reply and a failure leave the last page.
@@ -29,9 +32,11 @@ public:
 
 private:
     bool Save(std::u16string_view page);
+    void Remember(std::u16string_view url);
 
     FeedPorts m_ports;
     IFileSystem& m_files;
+    const IClock& m_clock;
     std::filesystem::path m_folder;
     CFeedClient m_client;
 };

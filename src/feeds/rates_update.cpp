@@ -1,6 +1,5 @@
 #include "feeds/rates_update.h"
 
-#include "base/number.h"
 #include "base/text.h"
 #include "feeds/http_url.h"
 #include "feeds/iso_day.h"
@@ -18,13 +17,9 @@ constexpr int kRoomForLongLabel = 244;
 
 }  // namespace
 
-std::u16string RatesDateText(const Date& date) {
-    return FormatInteger(date.day) + u"/" + FormatInteger(date.month) + u"/" + FormatInteger(date.year);
-}
-
 std::u16string RatesUpdateLabel(const ITexts& texts, const RatesLayout& layout, const Date& date) {
     const bool longForm = layout.workArea.height > layout.workArea.width || layout.layoutHeight > kRoomForLongLabel;
-    return texts.Text(longForm ? kTextLastUpdate : kTextUpdatedShort) + u" " + RatesDateText(date) + u" ";
+    return texts.Text(longForm ? kTextLastUpdate : kTextUpdatedShort) + u" " + ShownDay(date) + u" ";
 }
 
 CRatesUpdate::CRatesUpdate(const FeedPorts& ports, IObjectStore& store, const CurrencyList& list)

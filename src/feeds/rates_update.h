@@ -28,9 +28,6 @@ struct RatesUpdateResult {
 /// The update label: "Last update" or its short form, the date, a blank.
 std::u16string RatesUpdateLabel(const ITexts& texts, const RatesLayout& layout, const Date& date);
 
-/// Day, month and year without leading zeros: "5/3/2026".
-std::u16string RatesDateText(const Date& date);
-
 /// The update command of the currency screen: posts the currency request and stores what comes. All rates of a reply
 /// are stored together or not at all; a failure leaves the last ones.
 class CRatesUpdate {

@@ -2,6 +2,7 @@
 
 #include <curl/curl.h>
 
+#include <cstdlib>
 #include <memory>
 
 namespace rlx {
@@ -53,6 +54,9 @@ SourceBytes Fetch(const std::string& url, const std::string& kind, const FetchPa
     curl_easy_setopt(easy.get(), CURLOPT_FOLLOWLOCATION, 1L);
     curl_easy_setopt(easy.get(), CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
     curl_easy_setopt(easy.get(), CURLOPT_MAXREDIRS, 3L);
+    // As other programs do; the library itself leaves it to them.
+    if (const char* trusted = std::getenv("SSL_CERT_FILE"); trusted != nullptr && *trusted != '\0')
+        curl_easy_setopt(easy.get(), CURLOPT_CAINFO, trusted);
     curl_easy_setopt(easy.get(), CURLOPT_CONNECTTIMEOUT, patience.connectSeconds);
     curl_easy_setopt(easy.get(), CURLOPT_TIMEOUT, patience.wholeSeconds);
     curl_easy_setopt(easy.get(), CURLOPT_NOSIGNAL, 1L);

@@ -3,9 +3,12 @@
 #include <utility>
 
 #include "base/text.h"
+#include "feeds/iso_day.h"
 #include "feeds/news_fetch.h"
 #include "news/text_ids.h"
+#include "shell/fill_text.h"
 #include "shell/setting_names.h"
+#include "shell/text_ids.h"
 
 namespace rlx {
 
@@ -56,7 +59,26 @@ NewsState CNewsPage::State() {
     if (state.newsId.empty()) state.newsId = u"0";
     state.newNews = m_settings.ReadDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewNews) != 0;
     state.newsRead = m_settings.ReadDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsRead) != 0;
+    state.fetched = ParseIsoDay(m_settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsDate));
+    state.source = m_settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsSource);
     return state;
+}
+
+bool CNewsPage::HasPage() {
+    return m_files.IsFile(File());
+}
+
+bool AreNewsStale(const NewsState& state, const Date& today) {
+    if (!state.fetched) return true;
+    const std::int64_t age = DayNumber(today) - DayNumber(*state.fetched);
+    return age > kNewsStaleAfterDays || age < -1;
+}
+
+std::u16string NewsOriginText(const NewsState& state, const ITexts& texts) {
+    std::u16string words;
+    if (state.fetched) words = FillText(texts.Text(kTextNewsFetched), {ShownDay(*state.fetched)});
+    if (state.source.empty()) return words;
+    return words + (words.empty() ? u"" : u", ") + FillText(texts.Text(kTextSource), {state.source});
 }
 
 }  // namespace rlx

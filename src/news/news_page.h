@@ -1,9 +1,11 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "base/calendar.h"
 #include "platform/file_system.h"
 #include "platform/registry.h"
 #include "shell/registry_store.h"
@@ -24,10 +26,21 @@ public:
 
 /// What the news flags of the registry say.
 struct NewsState {
-    std::u16string newsId;  ///< of the page last fetched; "0" when none
-    bool newNews = false;   ///< there is news not yet fetched
-    bool newsRead = false;  ///< the fetched page has been shown
+    std::u16string newsId;        ///< of the page last fetched; "0" when none
+    bool newNews = false;         ///< there is news not yet fetched
+    bool newsRead = false;        ///< the fetched page has been shown
+    std::optional<Date> fetched;  ///< day on which the page came; nothing when that is not known
+    std::u16string source;        ///< the host that it came from
 };
+
+/// News older than this many days are out of date.
+inline constexpr int kNewsStaleAfterDays = 3;
+
+/// Also true for a day that lies more than one day ahead of the device's, and for an unknown one.
+bool AreNewsStale(const NewsState& state, const Date& today);
+
+/// "Fetched on 20/11/2026, Source: localhost", as far as it is known, for people to read.
+std::u16string NewsOriginText(const NewsState& state, const ITexts& texts);
 
 /// Shows the last news page, or that there is none, and keeps the flags.
 class CNewsPage {
@@ -41,6 +54,9 @@ public:
     std::u16string Html();
 
     NewsState State();
+
+    /// False before the first fetch.
+    bool HasPage();
 
 private:
     std::filesystem::path File() const;

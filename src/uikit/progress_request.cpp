@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <string>
 #include <thread>
@@ -52,6 +51,8 @@ CProgressBox::CProgressBox(const ITexts& texts, QWidget* owner)
     column->addWidget(bar);
     column->addWidget(cancel, 0, Qt::AlignRight);
     QObject::connect(cancel, &QPushButton::clicked, m_dialog.get(), &QDialog::reject);
+    m_hide.setSingleShot(true);
+    QObject::connect(&m_hide, &QTimer::timeout, m_dialog.get(), &QDialog::hide);
 }
 
 CProgressBox::~CProgressBox() = default;
@@ -65,6 +66,7 @@ void CProgressBox::SetText(const QString& text) {
 }
 
 void CProgressBox::Run(const std::function<void()>& work) {
+    m_hide.stop();
     QEventLoop loop;
     std::atomic<bool> done = false;
     std::thread worker([&] {
@@ -72,16 +74,18 @@ void CProgressBox::Run(const std::function<void()>& work) {
         done = true;
         QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
     });
-    // Until the box stands nobody may press anything else: what is pressed waits.
-    QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    if (!m_dialog->isVisible()) {
+        // Until the box stands nobody may press anything else: what is pressed waits.
+        QTimer::singleShot(kPatience, &loop, &QEventLoop::quit);
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    }
     if (!done) {
         m_dialog->show();
         loop.exec();
-        m_dialog->hide();
         if (!done) m_cancelled = true;  // the program is about to end
     }
     worker.join();
+    m_hide.start(0);
 }
 
 /// Hands the thread's questions to the caller's observer too.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QTimer>
 #include <QWidget>
 #include <atomic>
 #include <functional>
@@ -27,8 +28,9 @@ public:
     void SetText(const QString& text);
 
     /// Runs `work` on a thread of its own and returns when it is done. The work must look at `Cancelled` now and then,
-    /// and must touch neither widgets nor anything else that belongs to the user-interface thread. The box goes when
-    /// the work is done, so that message boxes stand alone. What `work` throws ends the program.
+    /// and must touch neither widgets nor anything else that belongs to the user-interface thread. The box goes as
+    /// soon as something else is shown or done after the work, so that message boxes stand alone and work that
+    /// follows at once finds it standing. What `work` throws ends the program.
     void Run(const std::function<void()>& work);
 
     /// True once the user has pressed Cancel. Any thread.
@@ -38,6 +40,7 @@ private:
     std::atomic<bool> m_cancelled = false;
     std::unique_ptr<QDialog> m_dialog;
     QLabel* m_text;
+    QTimer m_hide;
 };
 
 /// HTTP whose waiting happens behind a progress box, so that a caller on the user-interface thread may simply wait for

@@ -88,6 +88,8 @@ bool TellsSomething(const ForecastDay& day) {
 ReplyFault FaultOf(const Draft& draft) {
     const auto& forecast = draft.forecast;
     if (draft.promisedDays != static_cast<std::int64_t>(forecast.days.size())) return ReplyFault::kTruncated;
+    // What a server says that has no forecast at all: then nobody made one at any time.
+    if (forecast.days.empty()) return ReplyFault::kNoValues;
     if (!draft.issued || forecast.source.empty() || forecast.placeFeedName.empty()) return ReplyFault::kBadHeader;
     if (std::ranges::none_of(forecast.days, TellsSomething)) return ReplyFault::kNoValues;
     const auto ahead = DayNumber(forecast.days.front().date) - DayNumber(draft.issued->date);

@@ -90,5 +90,11 @@ inline constexpr TextId kTextWeatherTomorrow = 40488;
 inline constexpr TextId kTextSample = 40489;
 inline constexpr TextId kTextIconsOfSkin = 40490;
 inline constexpr TextId kTextIconsStandard = 40491;
+inline constexpr TextId kTextUpdatingWeather = 40492;
+inline constexpr TextId kTextPlaceGone = 40493;
+inline constexpr TextId kTextNotUpdated = 40494;
+inline constexpr TextId kTextPlaceNotServed = 40495;
+inline constexpr TextId kTextPlaceWithoutCity = 40496;
+inline constexpr TextId kTextCitiesUnknown = 40497;
 
 }  // namespace rlx

@@ -111,6 +111,7 @@ std::optional<StoredForecast> CWeatherStore::Find(std::u16string_view place) {
 
 SaveResult CWeatherStore::Save(std::u16string_view place, std::u16string_view reply, const DateTime& utcNow) {
     const auto reading = ReadForecast(reply);
+    if (reading.fault == ReplyFault::kNoValues) return {SaveOutcome::kNothing, reading.fault};
     if (!reading.forecast) return {SaveOutcome::kBroken, reading.fault};
     const auto& forecast = *reading.forecast;
     const auto feedName = FeedName(place);

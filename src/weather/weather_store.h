@@ -37,6 +37,7 @@ enum class WeatherStoreState {
 enum class SaveOutcome {
     kSaved,
     kBroken,      ///< no forecast in it
+    kNothing,     ///< a reply that is sound but tells nothing: the server has no forecast
     kOtherPlace,  ///< the forecast of another place
     kOlder,       ///< issued before the one that is there
     kRefused,     ///< the device refused the write
@@ -44,7 +45,7 @@ enum class SaveOutcome {
 
 struct SaveResult {
     SaveOutcome outcome = SaveOutcome::kRefused;
-    ReplyFault fault = ReplyFault::kNone;  ///< for `kBroken`
+    ReplyFault fault = ReplyFault::kNone;  ///< for `kBroken` and `kNothing`
 };
 
 /// The record database "rlxWeather" (docs/formats/cities-wet.md): the last good forecast of each place. Only a sound

@@ -1,6 +1,7 @@
 #include "weather/weather_update.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "feeds/text_ids.h"
 #include "shell/fill_text.h"
@@ -19,6 +20,8 @@ PlaceUpdate UpdateOf(SaveOutcome outcome) {
             return PlaceUpdate::kOlder;
         case SaveOutcome::kRefused:
             return PlaceUpdate::kNotSaved;
+        case SaveOutcome::kNothing:
+            return PlaceUpdate::kUnknown;
         case SaveOutcome::kBroken:
         case SaveOutcome::kOtherPlace:
             break;
@@ -57,21 +60,28 @@ std::vector<PlaceUpdate> CWeatherUpdate::Run(const std::vector<std::u16string>& 
 
 PlaceUpdate CWeatherUpdate::UpdatePlace(const std::u16string& place, const std::function<DateTime()>& utcNow) {
     const auto reply = m_request(m_store.FeedName(place));
-    if (reply.empty()) return PlaceUpdate::kNoReply;
-    return UpdateOf(m_store.Save(place, reply, utcNow()).outcome);
+    if (reply.outcome != FeedOutcome::kAnswered) return PlaceUpdate::kNoReply;
+    if (reply.body.empty()) return PlaceUpdate::kEmpty;
+    return UpdateOf(m_store.Save(place, reply.body, utcNow()).outcome);
 }
 
 void CWeatherUpdate::Report(const std::vector<std::u16string>& places, const std::vector<PlaceUpdate>& results) {
-    const auto nameOfFirst = [&](PlaceUpdate kind) {
-        const auto found = std::ranges::find(results, kind) - results.begin();
-        return found < std::ssize(results) ? FallbackFeedName(places[static_cast<std::size_t>(found)]) : u"";
+    const auto namesOf = [&](PlaceUpdate kind) {
+        std::u16string names;
+        for (std::size_t i = 0; i < places.size(); ++i) {
+            if (results[i] == kind) names += (names.empty() ? u"" : u", ") + FallbackFeedName(places[i]);
+        }
+        return names;
     };
-    if (std::ranges::find(results, PlaceUpdate::kNoReply) != results.end())
-        Show(kTextAppName, m_texts.Text(kTextSyncFailed));
-    if (const auto name = nameOfFirst(PlaceUpdate::kBroken); !name.empty())
-        Show(kTextError, FillText(m_texts.Text(kTextForecastBroken), {name}));
-    if (const auto name = nameOfFirst(PlaceUpdate::kNotSaved); !name.empty())
-        Show(kTextError, FillText(m_texts.Text(kTextWeatherNotSaved), {name}));
+    const auto isEmpty = [](PlaceUpdate each) { return each == PlaceUpdate::kNoReply || each == PlaceUpdate::kEmpty; };
+    if (std::ranges::any_of(results, isEmpty)) Show(kTextAppName, m_texts.Text(kTextSyncFailed));
+    constexpr std::pair<PlaceUpdate, int> kReports[] = {{PlaceUpdate::kUnknown, kTextCitiesUnknown},
+                                                        {PlaceUpdate::kBroken, kTextForecastBroken},
+                                                        {PlaceUpdate::kNotSaved, kTextWeatherNotSaved}};
+    for (const auto& [kind, text] : kReports) {
+        const auto names = namesOf(kind);
+        if (!names.empty()) Show(kTextError, FillText(m_texts.Text(text), {names}));
+    }
 }
 
 void CWeatherUpdate::Show(int titleId, const std::u16string& text) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "feeds/feed_client.h"
 #include "platform/message_boxes.h"
 #include "shell/texts.h"
 #include "weather/weather_store.h"
@@ -26,7 +27,9 @@ public:
 enum class PlaceUpdate {
     kSaved,
     kOlder,     ///< the server had nothing newer
-    kNoReply,   ///< an empty reply
+    kNoReply,   ///< no answer from the server, which was then reported
+    kEmpty,     ///< the server answered with nothing at all
+    kUnknown,   ///< the server answered that it has none for this place
     kBroken,    ///< a reply that is no forecast, or that of another place; the last good one stays
     kNotSaved,  ///< the device refused
     kNotAsked,  ///< the update ended before
@@ -35,15 +38,14 @@ enum class PlaceUpdate {
 /// Fetches forecasts and keeps them. Used from one thread; owns nothing that it is given.
 class CWeatherUpdate {
 public:
-    /// Asks the server for the forecast of a feed name and waits for the reply; empty on any failure, which was then
-    /// reported.
-    using Request = std::function<std::u16string(const std::u16string& feedName)>;
+    /// Asks the server for the forecast of a feed name and waits for the reply; failures were then reported.
+    using Request = std::function<FeedReply(const std::u16string& feedName)>;
 
     CWeatherUpdate(CWeatherStore& store, Request request, IMessageBoxes& boxes, const ITexts& texts);
 
     /// Updates the places ("Paris:France") in turn; one that comes twice is asked for once. Each place stands for
-    /// itself, except that an empty reply to the very first request ends the update: there is no connection, and every
-    /// further request would say so again. `utcNow` gives the instant in UTC. `observer` may be null. Returns one
+    /// itself, except that the update ends when nobody answers the very first request: every further one would say so
+    /// again. `utcNow` gives the instant in UTC. `observer` may be null. Returns one
     /// result for each of `places`. Says what went wrong in message boxes, once for each kind of failure; nothing when
     /// it was cancelled.
     std::vector<PlaceUpdate> Run(const std::vector<std::u16string>& places, const std::function<DateTime()>& utcNow,

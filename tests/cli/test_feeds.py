@@ -151,6 +151,7 @@ class Feeds(RlxTest):
         fetched = self.answer("news", "fetch", messages=["You have News"])
         self.assertEqual(fetched, {"bytes": 18, "newsid": "n7", "newnews": 0, "newsread": 0})
         self.assertEqual((self.home / "news.htm").read_bytes(), b"<html>one\r\n</html>")
+        self.assertEqual((self.setting("newsdate"), self.setting("newsfrom")), ("2026-07-10", "127.0.0.1"))
         shown = self.answer("news", "show")
         self.assertEqual(shown, {"html": "<html>one\r\n</html>", "newsid": "n7", "newnews": 0, "newsread": 1})
         self.answer("--offline", "news", "fetch", status=1, messages=[CANNOT_UPDATE])

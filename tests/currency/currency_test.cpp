@@ -4,6 +4,7 @@
 #include "currency/converter_pairs.h"
 #include "currency/currency_convert.h"
 #include "currency/currency_search.h"
+#include "currency/rate_card.h"
 #include "platform/fake/memory_registry.h"
 #include "shell/registry_store.h"
 #include "shell/setting_names.h"
@@ -15,6 +16,21 @@ const CurrencyList kList = {
     {u"DKK", u"Danish Krone", u"6.9"},  {u"EUR", u"Euro", u"0.92"},          {u"JPY", u"Japanese Yen", u"150"},
     {u"DOP", u"Dominican Peso", u"60"}, {u"GBP", u"Pound Sterling", u"0.8"}, {u"USD", u"US Dollar", u"1"},
 };
+
+TEST(RateCard, ChosenOnesFirstThenPopularOnesEachOnce) {
+    CurrencyList list = kList;
+    list.push_back({u"XXX", u"Unknown Coin", u"n/a"});
+    const auto codes = [&list](std::size_t base, const std::vector<std::size_t>& chosen) {
+        std::string text;
+        for (const RateCardRow& row : RateCardOf(list, base, chosen))
+            text += ToUtf8(row.code + u" " + row.worth + u";");
+        return text;
+    };
+    EXPECT_EQ(codes(5, {3, 6, 3, 5, 1}), "DOP 60.00;EUR 0.9200;GBP 0.8000;JPY 150.00;DKK 6.90;");
+    EXPECT_EQ(codes(2, {}), "USD 0.006667;EUR 0.006133;GBP 0.005333;DKK 0.04600;");
+    EXPECT_EQ(codes(6, {0}), "");
+    EXPECT_EQ(codes(99, {0, 99}), "");
+}
 
 TEST(Convert, GoesThroughTheDollar) {
     EXPECT_DOUBLE_EQ(Convert(100, u"0.8", u"150").value(), 18750);

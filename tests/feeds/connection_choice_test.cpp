@@ -1,5 +1,7 @@
 #include "feeds/connection_choice.h"
 
+#include <algorithm>
+
 #include "feeds/feed_world.h"
 
 namespace rlx::test {
@@ -133,6 +135,22 @@ TEST(ConnectionChoice, SayingNoSendsNothing) {
     EXPECT_EQ(world.client.PostFeedRequest(server.Url(), u"", false).outcome, FeedOutcome::kNotConnected);
     EXPECT_TRUE(server.Requests().empty());
     EXPECT_TRUE(world.registry.List().empty());
+}
+
+TEST(ConnectionChoice, OneYesIsEnoughForAnUpdateOfSeveralRequests) {
+    const auto questions = [](Confirmation confirmation, BoxAnswer answer) {
+        FeedWorld world;
+        world.boxes.answer = answer;
+        CConnectionChooser chooser(world.connections, world.settings, world.boxes, world.texts, confirmation);
+        for (int request = 0; request < 3; ++request) {
+            CHeldConnections held(world.connections);
+            chooser.ChooseConnection(false, held);
+        }
+        return std::ranges::count(world.boxes.shown, BoxButtons::kYesNo, &MessageBox::buttons);
+    };
+    EXPECT_EQ(questions(Confirmation::kOnce, BoxAnswer::kYes), 1);
+    EXPECT_EQ(questions(Confirmation::kOnce, BoxAnswer::kNo), 3);
+    EXPECT_EQ(questions(Confirmation::kEachRequest, BoxAnswer::kYes), 3);
 }
 
 TEST(ConnectionChoice, AsksNoMoreForAConnectionThatWasAgreedTo) {

@@ -108,6 +108,30 @@ std::vector<Row> Rows() {
          "",
          "7",
          0},
+        {"the headers in another order",
+         {{"HTTP/1.1 200 OK\r\nnewsid: 8\r\nServerMSG: 1005\r\nContent-Length: 1\r\nsessionId: S1.\r\n\r\nb"}},
+         kAnswered,
+         "b",
+         {},
+         "S1",
+         "7",
+         1},
+        {"header names in small letters",
+         {{"HTTP/1.1 200 OK\r\nsessionid: S1.\r\nservermsg: 1005\r\nContent-Length: 1\r\nnewsid: 7\r\n\r\nb"}},
+         kNotUnderstood,
+         "",
+         {},
+         "",
+         "7",
+         0},
+        {"slowly, byte by byte",
+         {{FeedReplyBytes("EUR_1#"), Ending::kClose, 1}},
+         kAnswered,
+         "EUR_1#",
+         {},
+         "S1",
+         "7",
+         0},
         {"an interim reply first",
          {{"HTTP/1.1 100 Continue\r\nServerMSG: 1001\r\nC: x\r\n\r\n" + FeedReplyBytes("b")}},
          kAnswered,
@@ -232,6 +256,18 @@ TEST(FeedClient, WhatTheUserSeesAndTheRegistryHolds) {
     }
 }
 
+/// Never silent for long, never done: the request as a whole has its time.
+TEST(FeedClient, AServerThatDripsForEverIsLeft) {
+    FeedWorld world;
+    HttpLimits limits = QuickLimits();
+    limits.whole = std::chrono::milliseconds(250);
+    CCurlHttpSession http(limits);
+    CFeedClient client({http, world.connections, world.registry, world.boxes, world.texts});
+    CScriptedServer server({{FeedReplyBytes(std::string(500, 'x')), Ending::kClose, 5}});
+    EXPECT_EQ(client.PostFeedRequest(server.Url(), u"", true).outcome, FeedOutcome::kFailed);
+    EXPECT_EQ(world.Messages(), (std::vector<std::string>{NoServer("12002")}));
+}
+
 TEST(FeedClient, TheEnglishTextsAreThose) {
     const CResources english;
     const CFeedTexts expected;
@@ -317,6 +353,7 @@ TEST(FeedClient, CutsTheBodyAtTheLastLineThatFits) {
         {"short lines", lines(2561, 100), 255'900},
         {"one endless line, dropped by pieces", std::string(300'000, 'x'), 249 * 1024},
         {"much more than fits", lines(900, 1024), 249 * 1024},
+        {"more than the device would ever take", lines(2100, 1024), 249 * 1024},
         {"zeros and high bytes are kept", std::string("a\0\xFF\r\n\n", 6), 6},
     };
     for (const auto& row : rows) {

@@ -2,7 +2,9 @@
 #include "feeds/news_fetch.h"
 #include "news/news_page.h"
 #include "news/news_zoom.h"
+#include "platform/fake/fixed_clock.h"
 #include "platform/posix/posix_file_system.h"
+#include "shell/resources.h"
 #include "support/temp_folder.h"
 
 namespace rlx::test {
@@ -27,7 +29,8 @@ struct NewsWorld : FeedWorld {
 
     CTempFolder folder;
     CPosixFileSystem files;
-    CNewsFetch fetch{ports, files, folder.Path()};
+    CFixedClock clock{{{2026, 11, 22}, 12, 0, 0, 0}};
+    CNewsFetch fetch{ports, files, clock, folder.Path()};
     CNewsPage page{registry, files, texts, folder.Path()};
 };
 
@@ -40,12 +43,15 @@ TEST(NewsFetch, KeepsThePageAndTheFlags) {
     EXPECT_TRUE(world.fetch.Fetch(server.Url(), u"").saved);
     EXPECT_EQ(world.Page(), html);
     EXPECT_EQ(world.Flags(), "12 -1 0");
+    EXPECT_EQ(NewsOriginText(world.page.State(), CResources()), u"Fetched on 22/11/2026, Source: 127.0.0.1");
+    world.clock.Set({{2026, 11, 30}, 12, 0, 0, 0});
     EXPECT_EQ(world.Messages(), (std::vector<std::string>{"Roamlytix|i|You have News"}));
     EXPECT_FALSE(world.fetch.Fetch(server.Url(), u"").saved);
     EXPECT_EQ(world.Flags(), "12 0 0");
     EXPECT_FALSE(world.fetch.Fetch(server.Url(), u"").saved);
     EXPECT_EQ(world.Flags(), "13 0 0");
     EXPECT_EQ(world.Page(), html);
+    EXPECT_EQ(world.page.State().fetched, (Date{2026, 11, 22})) << "the day of the page that is there";
     EXPECT_EQ(world.boxes.shown.size(), 3U);
 }
 
@@ -53,7 +59,7 @@ TEST(NewsFetch, APageThatCannotBeSavedIsStillNew) {
     NewsWorld world;
     world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, u"11");
     CScriptedServer server({{FeedReplyBytes("page", "1005", "12")}});
-    CNewsFetch fetch(world.ports, world.files, world.folder.Path() / "gone");
+    CNewsFetch fetch(world.ports, world.files, world.clock, world.folder.Path() / "gone");
     EXPECT_FALSE(fetch.Fetch(server.Url(), u"").saved);
     EXPECT_EQ(world.Messages(), (std::vector<std::string>{"Error!|!|The news page could not be saved."}));
     EXPECT_EQ(world.Flags(), "11 -1 -1");
@@ -76,6 +82,21 @@ TEST(NewsPage, ShowsThePageOrThatThereIsNone) {
     EXPECT_EQ(world.page.Html(), u"\u00FFpage");
     EXPECT_EQ(world.page.State().newsId, u"0");
     EXPECT_TRUE(world.page.State().newsRead);
+}
+
+TEST(NewsPage, GrowsOldAfterThreeDays) {
+    const struct {
+        const char* name;
+        std::optional<Date> fetched;
+        bool stale;
+    } rows[] = {{"today", Date{2026, 11, 22}, false},
+                {"three days ago", Date{2026, 11, 19}, false},
+                {"four days ago", Date{2026, 11, 18}, true},
+                {"across the date line", Date{2026, 11, 23}, false},
+                {"a clock that was wrong", Date{2026, 11, 24}, true},
+                {"nobody knows", std::nullopt, true}};
+    for (const auto& row : rows)
+        EXPECT_EQ(AreNewsStale({u"1", false, true, row.fetched, u""}, {2026, 11, 22}), row.stale) << row.name;
 }
 
 TEST(NewsZoom, TheSquaresHaveStrictBounds) {

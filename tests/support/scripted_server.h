@@ -5,6 +5,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdint>
 #include <mutex>
 #include <string>
@@ -24,6 +25,7 @@ enum class Ending {
 struct ScriptedReply {
     std::string bytes;  ///< "SELF" stands for the server's own address, "http://127.0.0.1:port"
     Ending ending = Ending::kClose;
+    int pause = 0;  ///< milliseconds between one byte and the next
 };
 
 /// A server on loopback that answers one connection after the other by a script, with exactly the bytes it is given.
@@ -78,7 +80,7 @@ private:
                 m_requests.push_back(std::move(request));
             }
             const ScriptedReply reply = turn < m_script.size() ? m_script[turn] : ScriptedReply();
-            Send(client, WithAddress(reply.bytes));
+            Send(client, WithAddress(reply.bytes), reply.pause);
             End(client, reply.ending);
         }
     }
@@ -105,12 +107,14 @@ private:
         return request;
     }
 
-    static void Send(int client, const std::string& bytes) {
+    static void Send(int client, const std::string& bytes, int pause) {
         std::size_t sent = 0;
         while (sent < bytes.size()) {
-            const ssize_t count = send(client, bytes.data() + sent, bytes.size() - sent, MSG_NOSIGNAL);
+            const std::size_t most = pause > 0 ? 1 : bytes.size() - sent;
+            const ssize_t count = send(client, bytes.data() + sent, most, MSG_NOSIGNAL);
             if (count <= 0) return;
             sent += static_cast<std::size_t>(count);
+            std::this_thread::sleep_for(std::chrono::milliseconds(pause));
         }
     }
 

@@ -61,7 +61,7 @@ TEST(ForecastReader, RefusesBrokenReplies) {
         {"a later version", u"weather_2#end_0#", ReplyFault::kNotAForecast},
         {"a zero character", kReplyHead + std::u16string(1, u'\0'), ReplyFault::kNotAscii},
         {"a letter beyond ASCII", u"weather_1#source_é#", ReplyFault::kNotAscii},
-        {"refused by the server", u"weather_1#place_x#end_0#", ReplyFault::kBadHeader},
+        {"refused by the server", u"weather_1#place_x#end_0#", ReplyFault::kNoValues},
         {"no days", kReplyHead + u"end_0#", ReplyFault::kNoValues},
         {"a day that tells nothing", OneDayReply(u";;;1.0;50;;;;08:00;17:00"), ReplyFault::kNoValues},
         {"no source", u"weather_1#place_x#issued_2026-11-22T18:00Z#2026-11-22" + day + u"end_1#",

@@ -30,7 +30,7 @@ protected:
             [&](const std::u16string& feedName) {
                 m_asked.push_back(feedName);
                 ++m_observer.asked;
-                return m_replies[feedName];
+                return FeedReply{m_replies[feedName], m_outcomes[feedName]};
             },
             m_boxes, m_texts);
         return update.Run(
@@ -54,10 +54,12 @@ protected:
     CResources m_texts;
     Observer m_observer;
     std::vector<std::u16string> m_asked;
+    std::map<std::u16string, FeedOutcome> m_outcomes;  // answered, unless told otherwise
     std::map<std::u16string, std::u16string> m_replies = {{u"Paris", ReplyFor(u"Paris", u"2026-11-22T18:00Z")},
                                                           {u"Oslo", ReplyFor(u"Oslo", u"2026-11-22T18:00Z")},
                                                           {u"Rome", u"<html>"},
-                                                          {u"Bern", u"weather_1#place_Bern#end_0#"}};
+                                                          {u"Bern", u"weather_1#place_Bern#end_0#"},
+                                                          {u"Basel", u"weather_1#place_Bern#end_1#"}};
 
     void SetUp() override { m_store.EnsureCreated(); }
 };
@@ -72,18 +74,20 @@ TEST_F(WeatherUpdate, AsksForEachPlaceOnce) {
 }
 
 TEST_F(WeatherUpdate, NoAnswerAtAllIsSaidOnce) {
-    m_replies.clear();
+    m_outcomes[u"Paris"] = FeedOutcome::kFailed;
     EXPECT_EQ(Run({u"Paris:France", u"Oslo:Norway"}), (Results{PlaceUpdate::kNoReply, PlaceUpdate::kNotAsked}));
     EXPECT_EQ(Shown(), (std::vector<std::u16string>{u"Syncronisation failed"}));
 }
 
 TEST_F(WeatherUpdate, OneBadPlaceKeepsNobodyElseFromWeather) {
-    EXPECT_EQ(Run({u"Rome:Italy", u"Nowhere:X", u"Bern:Switzerland", u"Nowhere:Y", u"Oslo:Norway"}),
-              (Results{PlaceUpdate::kBroken, PlaceUpdate::kNoReply, PlaceUpdate::kBroken, PlaceUpdate::kNoReply,
-                       PlaceUpdate::kSaved}));
+    m_outcomes[u"Wien"] = FeedOutcome::kFailed;
+    EXPECT_EQ(
+        Run({u"Nowhere:X", u"Rome:Italy", u"Bern:Switzerland", u"Wien:Austria", u"Basel:Switzerland", u"Oslo:Norway"}),
+        (Results{PlaceUpdate::kEmpty, PlaceUpdate::kBroken, PlaceUpdate::kUnknown, PlaceUpdate::kNoReply,
+                 PlaceUpdate::kBroken, PlaceUpdate::kSaved}));
     EXPECT_EQ(Shown(), (std::vector<std::u16string>{
-                           u"Syncronisation failed",
-                           u"The forecast received for Rome cannot be read. The last good one is kept."}));
+                           u"Syncronisation failed", u"The server has no forecast for Bern.",
+                           u"The forecast received for Rome, Basel cannot be read. The last good one is kept."}));
 }
 
 TEST_F(WeatherUpdate, SaysWhenNothingCouldBeSaved) {
@@ -94,7 +98,7 @@ TEST_F(WeatherUpdate, SaysWhenNothingCouldBeSaved) {
 }
 
 TEST_F(WeatherUpdate, CancellingIsNoFailure) {
-    m_replies[u"Oslo"].clear();
+    m_outcomes[u"Oslo"] = FeedOutcome::kCancelled;
     m_observer.cancelAfter = 2;
     EXPECT_EQ(Run({u"Paris:France", u"Oslo:Norway", u"Rome:Italy"}, &m_observer),
               (Results{PlaceUpdate::kSaved, PlaceUpdate::kNotAsked, PlaceUpdate::kNotAsked}));

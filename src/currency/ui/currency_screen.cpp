@@ -3,7 +3,9 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "currency/rate_card.h"
 #include "currency/text_ids.h"
+#include "feeds/iso_day.h"
 #include "shell/fill_text.h"
 #include "shell/text_ids.h"
 #include "skins/skin_file.h"
@@ -19,8 +21,11 @@ constexpr int kSmallGap = 4;
 constexpr int kLargeGap = 12;
 constexpr int kLeastRow = 21;
 constexpr int kMostRow = 44;
+constexpr int kMostRowOfLarge = 72;
 constexpr int kRowForRate = 34;
 constexpr int kWidest = 640;
+constexpr int kWidthForCard = 620;     // of a lying screen
+constexpr int kWidestWithCard = 1120;  // both columns
 constexpr int kButtonHeight = 32;
 constexpr int kLowButtonHeight = 28;
 constexpr int kButtonWidth = 84;
@@ -35,30 +40,51 @@ constexpr int kTallFooterFont = 13;
 struct ScreenLayout {
     int left = 0;
     int width = 0;
-    int gap = 0;  ///< around and between the panels
+    int top = 0;  ///< of the first panel
+    int gap = 0;  ///< between the panels
     CPairPanel::Form panel;
+    QRect card;  ///< empty: no room for one
     int footerHeight = 0;
     int buttonHeight = 0;
     int font = 0;  ///< of the footer
     bool low = false;
 };
 
+/// One column in the middle, or two with the rate card in the second.
+void LayOutColumns(const QSize& size, ScreenLayout& layout) {
+    const int margin = layout.gap;
+    if (layout.low || size.width() < kWidthForCard || size.width() < size.height()) {
+        layout.width = std::min(size.width() - 2 * margin, kWidest);
+        layout.left = (size.width() - layout.width) / 2;
+        return;
+    }
+    const int both = std::min(size.width() - 2 * margin, kWidestWithCard);
+    layout.left = (size.width() - both) / 2;
+    layout.width = (both - kLargeGap) / 2;
+    layout.card = QRect(layout.left + layout.width + kLargeGap, margin, layout.width, size.height() - 2 * margin);
+}
+
 ScreenLayout LayOutScreen(const QSize& size) {
     const bool tall = size.height() >= kTallScreen;
     ScreenLayout layout;
     layout.low = size.height() < kLowScreen && size.width() > size.height();
-    layout.gap = tall ? kLargeGap : kSmallGap;
+    layout.top = layout.gap = tall ? kLargeGap : kSmallGap;
     layout.font = tall ? kTallFooterFont : kFooterFont;
     layout.buttonHeight = layout.low ? kLowButtonHeight : kButtonHeight;
     layout.footerHeight = layout.low ? kLowButtonHeight : (tall ? kTallFooterHeight : kFooterHeight);
-    layout.width = std::min(size.width() - 2 * layout.gap, kWidest);
-    layout.left = (size.width() - layout.width) / 2;
+    LayOutColumns(size, layout);
     layout.panel.padding = tall ? kLargeGap - 4 : kSmallGap;
     const auto pairs = static_cast<int>(kConverterPairs);
     const int room = (size.height() - layout.footerHeight - (pairs + 1) * layout.gap) / pairs;
     layout.panel.withRate = true;
     layout.panel.withRate = (room - layout.panel.Height()) / 2 >= kRowForRate;
-    layout.panel.rowHeight = std::clamp((room - layout.panel.Height()) / 2, kLeastRow, kMostRow);
+    const int most = layout.card.isEmpty() ? kMostRow : kMostRowOfLarge;
+    layout.panel.rowHeight = std::clamp((room - layout.panel.Height()) / 2, kLeastRow, most);
+    if (!layout.card.isEmpty()) {
+        // What is left over goes between the panels, so that both columns end together.
+        const int rest = layout.card.height() - layout.footerHeight - pairs * layout.panel.Height();
+        layout.gap = std::max(layout.gap, rest / pairs);
+    }
     return layout;
 }
 
@@ -73,13 +99,17 @@ CCurrencyScreen::CCurrencyScreen(const Source& source, const IClock& clock, cons
       m_empty(new QLabel(this)),
       m_updateLabel(new QLabel(this)),
       m_origin(new QLabel(this)),
-      m_update(new QPushButton(this)) {
+      m_update(new QPushButton(this)),
+      m_card(new CRateCardView(look, this)) {
     setObjectName("currencyScreen");
     for (std::size_t row = 0; row < kConverterPairs; ++row) {
         m_panels[row] = new CPairPanel(texts, look, this);
         m_panels[row]->setObjectName(QStringLiteral("pair%1").arg(row));
-        connect(m_panels[row], &CPairPanel::PairChanged, this,
-                [this, row] { m_pairs.Write(row, m_panels[row]->Pair()); });
+        connect(m_panels[row], &CPairPanel::PairChanged, this, [this, row] {
+            m_pairs.Write(row, m_panels[row]->Pair());
+            m_cardPair = row;
+            ShowCard();
+        });
     }
     setFocusProxy(m_panels[0]->findChild<QLineEdit*>("amount0"));
     MakeFooter();
@@ -111,6 +141,20 @@ void CCurrencyScreen::Refresh() {
     }
     m_empty->setVisible(m_currencies.empty());
     ShowOrigin();
+    ShowCard();
+}
+
+void CCurrencyScreen::ShowCard() {
+    if (m_currencies.empty()) return;
+    const std::size_t base = m_panels[m_cardPair]->Pair().from;
+    std::vector<std::size_t> chosen;
+    for (const CPairPanel* panel : m_panels) {
+        chosen.push_back(panel->Pair().to);
+        chosen.push_back(panel->Pair().from);
+    }
+    const RatesOrigin origin = OriginOfRates(m_source.registry, m_source.shippedDate);
+    m_card->Show(ToQString(FillText(m_texts.Text(kTextRateCard), {m_currencies[base].code})),
+                 origin.date ? ToQString(ShownDay(*origin.date)) : QString(), RateCardOf(m_currencies, base, chosen));
 }
 
 /// At midnight rates may go out of date.
@@ -142,9 +186,9 @@ void CCurrencyScreen::ShowOrigin() {
     m_updateLabel->setVisible(!label.empty());
     std::u16string words;
     if (shipped) {
-        words = FillText(m_texts.Text(kTextRatesOf),
-                         {origin.date ? RatesDateText(*origin.date) : m_texts.Text(kTextUnknown)}) +
-                u", ";
+        words =
+            FillText(m_texts.Text(kTextRatesOf), {origin.date ? ShownDay(*origin.date) : m_texts.Text(kTextUnknown)}) +
+            u", ";
     }
     words += shipped ? m_texts.Text(kTextRatesShipped) : FillText(m_texts.Text(kTextSource), {origin.source});
     if (AreRatesStale(origin.date, m_today)) words += u" (" + m_texts.Text(kTextStale) + u")";
@@ -167,6 +211,7 @@ void CCurrencyScreen::TakeColours() {
     m_update->setIcon(TintedIcon("update", text));
     for (CPairPanel* panel : m_panels)
         panel->TakeColours();
+    m_card->update();
     update();
 }
 
@@ -186,13 +231,15 @@ void CCurrencyScreen::resizeEvent(QResizeEvent* /*event*/) {
 
 void CCurrencyScreen::Arrange() {
     const ScreenLayout layout = LayOutScreen(size());
-    int top = layout.gap;
+    int top = layout.top;
     for (CPairPanel* panel : m_panels) {
         panel->Arrange(layout.panel);
         panel->setGeometry(layout.left, top, layout.width, panel->height());
         top += panel->height() + layout.gap;
     }
-    m_empty->setGeometry(layout.left, layout.gap, layout.width, top - 2 * layout.gap);
+    m_card->setGeometry(layout.card);
+    m_card->setVisible(!layout.card.isEmpty() && !m_currencies.empty());
+    m_empty->setGeometry(layout.left, layout.top, layout.width, top - 2 * layout.top);
     const QRect footer(layout.left, top, layout.width, layout.footerHeight);
     m_update->setGeometry(footer.right() + 1 - kButtonWidth, footer.top() + (footer.height() - layout.buttonHeight) / 2,
                           kButtonWidth, layout.buttonHeight);

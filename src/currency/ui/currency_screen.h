@@ -7,6 +7,7 @@
 
 #include "currency/converter_pairs.h"
 #include "currency/ui/pair_panel.h"
+#include "currency/ui/rate_card_view.h"
 #include "feeds/currency_database.h"
 #include "feeds/rates_origin.h"
 #include "feeds/rates_update.h"
@@ -17,8 +18,8 @@
 
 namespace rlx {
 
-/// Three currency converters, and below them how old the rates are, where they come from, and the way to newer ones.
-/// User-interface thread.
+/// Three currency converters, beside them a rate card where there is room, and below them how old the rates are, where
+/// they come from, and the way to newer ones. User-interface thread.
 class CCurrencyScreen : public CScreen {
     Q_OBJECT
 
@@ -55,6 +56,7 @@ protected:
 private:
     void MakeFooter();
     void ShowOrigin();
+    void ShowCard();
     void Arrange();
     void ArrangeWords(QRect words, bool sideBySide);
     void TakeColours();
@@ -70,6 +72,8 @@ private:
     QLabel* m_updateLabel;
     QLabel* m_origin;
     QPushButton* m_update;
+    CRateCardView* m_card;
+    std::size_t m_cardPair = 0;             ///< the pair that was changed last: the card is about its first currency
     std::optional<std::u16string> m_label;  ///< of the last update in this run
     Date m_today;
 };

@@ -21,24 +21,23 @@ constexpr int kLongestLinkShown = 300;
 
 }  // namespace
 
-CNewsScreen::CNewsScreen(CNewsPage& page, const ITexts& texts, IMessageBoxes& boxes, const CLook& look,
-                         OpenLink openLink)
+CNewsScreen::CNewsScreen(CNewsPage& page, const Ports& ports, OpenLink openLink)
     : m_page(page),
-      m_texts(texts),
-      m_boxes(boxes),
-      m_look(look),
+      m_ports(ports),
       m_openLink(std::move(openLink)),
       m_view(new CNewsView(
-          look, [this] { return Narrow(m_page.Html()); }, this)),
+          ports.look, [this] { return Narrow(m_page.Html()); }, this)),
+      m_bar(new CZoomBar(ports.look, this)),
       m_state(new QLabel(this)),
-      m_fetch(new QPushButton(ToQString(texts.Text(kTextFetchNews)), this)) {
+      m_fetch(new QPushButton(ToQString(ports.texts.Text(kTextFetchNews)), this)) {
     setObjectName("newsScreen");
     setFocusProxy(m_view);
     LayOut();
     MakeActions();
     connect(m_fetch, &QPushButton::clicked, this, &CNewsScreen::FetchChosen);
+    connect(m_bar, &CZoomBar::Tapped, this, &CNewsScreen::Zoom);
     connect(m_view, &QTextBrowser::anchorClicked, this, &CNewsScreen::FollowLink);
-    connect(&m_look, &CLook::Changed, this, &CNewsScreen::TakeColours);
+    connect(&m_ports.look, &CLook::Changed, this, &CNewsScreen::TakeColours);
     TakeColours();
     Refresh();
 }
@@ -57,15 +56,16 @@ void CNewsScreen::LayOut() {
     column->setSpacing(0);
     column->addLayout(bar);
     column->addWidget(m_view, 1);
+    column->addWidget(m_bar);
 }
 
 /// The squares are out of reach of a keyboard.
 void CNewsScreen::MakeActions() {
     const auto add = [this](int text, QKeySequence::StandardKey key, int by) {
-        auto* action = new QAction(ToQString(m_texts.Text(text)), this);
+        auto* action = new QAction(ToQString(m_ports.texts.Text(text)), this);
         action->setShortcuts(key);
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(action, &QAction::triggered, m_view, [this, by] { m_view->StepZoom(by); });
+        connect(action, &QAction::triggered, this, [this, by] { Zoom(by > 0 ? m_bar->Plus() : m_bar->Minus()); });
         addAction(action);
     };
     add(kTextLargerText, QKeySequence::ZoomIn, 1);
@@ -73,7 +73,23 @@ void CNewsScreen::MakeActions() {
 }
 
 void CNewsScreen::Refresh() {
-    m_state->setText(m_page.State().newNews ? ToQString(m_texts.Text(kTextNewNews)) : QString());
+    const NewsState state = m_page.State();
+    m_today = m_ports.clock.Now().date;
+    m_state->setText(state.newNews ? ToQString(m_ports.texts.Text(kTextNewNews)) : QString());
+    if (!m_page.HasPage()) return m_bar->ShowOrigin({}, {});
+    const QString mark = AreNewsStale(state, m_today) ? ToQString(m_ports.texts.Text(kTextStale)) : QString();
+    m_bar->ShowOrigin(ToQString(NewsOriginText(state, m_ports.texts)), mark);
+}
+
+/// The strip is the lower end of the view: their right and bottom edges are the same.
+void CNewsScreen::Zoom(const QPoint& tap) {
+    m_view->Tap(tap, m_bar->size());
+    m_bar->Enable(m_view->ZoomLevel() > CNewsZoom::kLeast, m_view->ZoomLevel() < CNewsZoom::kMost);
+}
+
+/// At midnight the page may go out of date.
+void CNewsScreen::Tick() {
+    if (m_ports.clock.Now().date != m_today) Refresh();
 }
 
 void CNewsScreen::Entered() {
@@ -96,20 +112,21 @@ void CNewsScreen::FollowLink(const QUrl& link) {
     const QString scheme = link.scheme();
     if (scheme != "http" && scheme != "https" && scheme != "mailto") return;
     const QString shown = link.toString(QUrl::FullyEncoded).left(kLongestLinkShown);
-    const std::u16string question = FillText(m_texts.Text(kTextAskOpenLink), {FromQString(shown)});
-    if (m_boxes.Show(QuestionBox(m_texts, question)) == BoxAnswer::kYes) m_openLink(link);
+    const std::u16string question = FillText(m_ports.texts.Text(kTextAskOpenLink), {FromQString(shown)});
+    if (m_ports.boxes.Show(QuestionBox(m_ports.texts, question)) == BoxAnswer::kYes) m_openLink(link);
 }
 
 void CNewsScreen::TakeColours() {
-    setPalette(m_look.Palette());
-    m_fetch->setIcon(TintedIcon("update", m_look.PanelText()));
+    setPalette(m_ports.look.Palette());
+    m_fetch->setIcon(TintedIcon("update", m_ports.look.PanelText()));
     m_view->TakeColours();
+    m_bar->update();
     update();
 }
 
 void CNewsScreen::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    m_look.PaintBackground(painter, rect(), LookPicture::kCommon);
+    m_ports.look.PaintBackground(painter, rect(), LookPicture::kCommon);
 }
 
 }  // namespace rlx

@@ -7,6 +7,8 @@
 
 #include "news/news_page.h"
 #include "news/ui/news_view.h"
+#include "news/ui/zoom_bar.h"
+#include "platform/clock.h"
 #include "platform/message_boxes.h"
 #include "shell/text_ids.h"
 #include "uikit/look.h"
@@ -21,13 +23,21 @@ class CNewsScreen : public CScreen {
 public:
     using OpenLink = std::function<void(const QUrl&)>;
 
-    /// `openLink` opens a link outside the program; it is only called after the user has agreed. References must
-    /// outlive the screen.
-    CNewsScreen(CNewsPage& page, const ITexts& texts, IMessageBoxes& boxes, const CLook& look, OpenLink openLink);
+    /// What the screen works with; all of it outlives the screen.
+    struct Ports {
+        const IClock& clock;
+        const ITexts& texts;
+        IMessageBoxes& boxes;
+        const CLook& look;
+    };
+
+    /// `openLink` opens a link outside the program; it is only called after the user has agreed.
+    CNewsScreen(CNewsPage& page, const Ports& ports, OpenLink openLink);
 
     int TitleText() const override { return kTextScreenNews; }
     QString IconName() const override { return QStringLiteral("news"); }
     void Refresh() override;
+    void Tick() override;
     bool GoBack() override;
 
     /// Shows the page, which then counts as read.
@@ -49,17 +59,18 @@ protected:
 private:
     void MakeActions();
     void LayOut();
+    void Zoom(const QPoint& tap);
     void FollowLink(const QUrl& link);
     void TakeColours();
 
     CNewsPage& m_page;
-    const ITexts& m_texts;
-    IMessageBoxes& m_boxes;
-    const CLook& m_look;
+    const Ports m_ports;
     OpenLink m_openLink;
     CNewsView* m_view;
+    CZoomBar* m_bar;
     QLabel* m_state;
     QPushButton* m_fetch;
+    Date m_today;  ///< for which the age of the page was told
 };
 
 }  // namespace rlx

@@ -1,13 +1,11 @@
 #include "news/ui/news_view.h"
 
+#include <QImage>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QTextDocument>
-#include <QTextFrame>
 #include <array>
 
 #include "base/text.h"
-#include "uikit/icons.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {
@@ -16,12 +14,6 @@ namespace {
 
 constexpr std::array kTextSizes = {11, 13, 15, 18, 23};  // pixels, by zoom level
 static_assert(kTextSizes.size() == CNewsZoom::kMost + 1);
-
-// The squares: both 20 pixels wide, at these distances from the corner.
-constexpr int kSquare = 20;
-constexpr int kPlusAway = 23;
-constexpr int kMinusAway = 46;
-constexpr int kRoomForSquares = 30;
 
 }  // namespace
 
@@ -33,7 +25,7 @@ CNewsView::CNewsView(const CLook& look, ReadPage readPage, QWidget* parent)
     setUndoRedoEnabled(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     TakeColours();
-    StepZoom(0);
+    Tap({-1, -1}, {});
 }
 
 void CNewsView::ClearText() {
@@ -46,25 +38,21 @@ void CNewsView::AddText(const std::u16string& html) {
 }
 
 void CNewsView::EndOfSource() {
-    ShowHtml(m_html);
+    setHtml(m_html);
 }
 
 /// The only page that the view is ever sent to is the one of its own program.
 void CNewsView::Navigate(const std::u16string&) {
     const std::string bytes = m_readPage();
-    ShowHtml(ToQString(IsUtf8(bytes) ? FromUtf8(bytes) : FromWindows1252(bytes)));
+    setHtml(ToQString(IsUtf8(bytes) ? FromUtf8(bytes) : FromWindows1252(bytes)));
 }
 
-void CNewsView::ShowHtml(const QString& html) {
-    setHtml(html);
-    QTextFrameFormat format = document()->rootFrame()->frameFormat();
-    format.setBottomMargin(kRoomForSquares);
-    document()->rootFrame()->setFrameFormat(format);
-}
-
-/// Something empty, because the document would read a file itself when it is given nothing.
+/// A sound picture of nothing, whatever is asked for: the document would read a file itself when it is given nothing or
+/// what is no picture, and what it was given for a style sheet it takes for a picture of the same name too.
 QVariant CNewsView::loadResource(int /*type*/, const QUrl& /*name*/) {
-    return QByteArray();
+    QImage clear(1, 1, QImage::Format_ARGB32);
+    clear.fill(Qt::transparent);
+    return clear;
 }
 
 void CNewsView::TakeColours() {
@@ -75,40 +63,17 @@ void CNewsView::TakeColours() {
     viewport()->update();
 }
 
-void CNewsView::Tap(const QPoint& point) {
-    const int level = m_zoom.Tap(point.x(), point.y(), viewport()->width(), viewport()->height());
+void CNewsView::Tap(const QPoint& point, const QSize& area) {
+    const int level = m_zoom.Tap(point.x(), point.y(), area.width(), area.height());
     QFont size = font();
     size.setPixelSize(kTextSizes.at(static_cast<std::size_t>(level)));
     document()->setDefaultFont(size);
-    viewport()->update();
 }
 
-void CNewsView::StepZoom(int by) {
-    if (by == 0) return Tap({-1, -1});
-    const int away = by > 0 ? kPlusAway : kMinusAway;
-    Tap({viewport()->width() - away + kSquare / 2, viewport()->height() - kPlusAway + kSquare / 2});
-}
-
+/// The squares lie below the text, so a tap on it changes nothing, but the level is sent again.
 void CNewsView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton) Tap(event->position().toPoint());
+    if (event->button() == Qt::LeftButton) Tap({-1, -1}, {});
     QTextBrowser::mousePressEvent(event);
-}
-
-void CNewsView::paintEvent(QPaintEvent* event) {
-    QTextBrowser::paintEvent(event);
-    QPainter painter(viewport());
-    painter.setRenderHint(QPainter::Antialiasing);
-    const auto paintSquare = [&](int away, const char* icon, bool enabled) {
-        const QRect square(viewport()->width() - away, viewport()->height() - kPlusAway, kSquare, kSquare);
-        painter.setOpacity(enabled ? 1 : 0.4);
-        painter.setPen(m_look.PanelText());
-        painter.setBrush(m_look.Bar());
-        painter.drawRoundedRect(QRectF(square).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-        painter.drawPixmap(square.topLeft() + QPoint(3, 3),
-                           TintedPixmap(icon, m_look.PanelText(), kSquare - 6, devicePixelRatioF()));
-    };
-    paintSquare(kPlusAway, "plus", m_zoom.Level() < CNewsZoom::kMost);
-    paintSquare(kMinusAway, "minus", m_zoom.Level() > CNewsZoom::kLeast);
 }
 
 }  // namespace rlx

@@ -9,8 +9,8 @@
 
 namespace rlx {
 
-/// Shows a page of HTML and nothing else: it loads no picture, no style sheet and no other page, and runs nothing. Two
-/// squares in the corner change the size of the text. User-interface thread.
+/// Shows a page of HTML and nothing else: it loads no picture, no style sheet and no other page, and runs nothing. The
+/// size of its text follows taps. User-interface thread.
 class CNewsView : public QTextBrowser, public INewsView {
     Q_OBJECT
 
@@ -27,20 +27,16 @@ public:
 
     int ZoomLevel() const { return m_zoom.Level(); }
 
-    /// As a tap on the plus square (`by` above 0) or on the minus square.
-    void StepZoom(int by);
+    /// A tap at a point of an area of that size, which has the two squares of `CNewsZoom` in its corner.
+    void Tap(const QPoint& point, const QSize& area);
     void TakeColours();
 
     QVariant loadResource(int type, const QUrl& name) override;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
-    void Tap(const QPoint& point);
-    void ShowHtml(const QString& html);
-
     const CLook& m_look;
     const ReadPage m_readPage;
     CNewsZoom m_zoom;

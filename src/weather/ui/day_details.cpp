@@ -13,6 +13,8 @@ namespace rlx {
 namespace {
 
 constexpr double kRadius = 10;
+constexpr int kSmallestRow = 9;
+constexpr int kLabelGap = 5;
 
 }  // namespace
 
@@ -65,25 +67,40 @@ void CDayDetails::PaintHead(QPainter& painter, const QRectF& room) const {
                 {28});
 }
 
-double CDayDetails::WidthOf(const QString& text) const {
-    QFont smallest = font();
-    smallest.setPixelSize(static_cast<int>(FontRange{0}.smallest));
-    smallest.setBold(true);
-    return QFontMetricsF(smallest).horizontalAdvance(text) + 1;
+double CDayDetails::WidthOf(const QString& text, int size, bool bold) const {
+    QFont sized = font();
+    sized.setPixelSize(size);
+    sized.setBold(bold);
+    return QFontMetricsF(sized).horizontalAdvance(text) + 1;
+}
+
+/// The largest size at which every line has room for its label and its value, so that all lines look alike.
+int CDayDetails::RowSize(double width, int largest) const {
+    const auto fits = [&](int size) {
+        return std::ranges::all_of(m_rows, [&](const auto& row) {
+            return WidthOf(row.first, size, false) + kLabelGap + WidthOf(row.second, size, true) <= width;
+        });
+    };
+    int size = largest;
+    while (size > kSmallestRow && !fits(size))
+        --size;
+    return size;
 }
 
 void CDayDetails::PaintRows(QPainter& painter, const QRectF& room) const {
     const double height = std::min(room.height() / static_cast<double>(m_rows.size()), 46.0);
-    const FontRange size{std::clamp(height * 0.62, 9.0, 24.0)};
+    const int size = RowSize(room.width(), static_cast<int>(std::clamp(height * 0.62, 9.0, 24.0)));
+    const FontRange range{static_cast<double>(size)};
     double top = room.top() + (room.height() - height * static_cast<double>(m_rows.size())) / 2;
     for (const auto& [label, value] : m_rows) {
         const QRectF line(room.left(), top, room.width(), height);
-        const double right = std::min(line.width() * 0.6, std::max(line.width() * 0.4, WidthOf(value)));
+        const double right = std::min(line.width() * 0.75, WidthOf(value, size, true));
         painter.setPen(m_look.Colour(SkinKey::kWeatherSATC));
-        PaintFitted(painter, line.adjusted(0, 0, -right - 3, 0), Qt::AlignLeft | Qt::AlignVCenter, label, size);
+        PaintFitted(painter, line.adjusted(0, 0, -right - kLabelGap, 0), Qt::AlignLeft | Qt::AlignVCenter, label,
+                    range);
         painter.setPen(m_look.Colour(SkinKey::kWeatherCBTC));
         PaintFitted(painter, line.adjusted(line.width() - right, 0, 0, 0), Qt::AlignRight | Qt::AlignVCenter, value,
-                    size, true);
+                    range, true);
         top += height;
     }
 }

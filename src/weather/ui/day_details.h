@@ -29,7 +29,8 @@ private:
     };
 
     void PaintHead(QPainter& painter, const QRectF& room) const;
-    double WidthOf(const QString& text) const;  ///< of a value, at the smallest size
+    double WidthOf(const QString& text, int size, bool bold) const;
+    int RowSize(double width, int largest) const;
     void PaintRows(QPainter& painter, const QRectF& room) const;
 
     const ITexts& m_texts;

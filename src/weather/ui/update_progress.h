@@ -1,24 +1,22 @@
 #pragma once
 
-#include <QProgressDialog>
-
 #include "shell/texts.h"
+#include "weather/ui/forecast_server.h"
 #include "weather/weather_update.h"
 
 namespace rlx {
 
-/// Shows in front of `owner` how an update goes on, with a button that ends it. While it waits, the window keeps
-/// painting but takes no other input.
+/// Names in the server's progress box the place that is asked for. References must outlive it.
 class CUpdateProgress : public IWeatherUpdateObserver {
 public:
-    CUpdateProgress(QWidget* owner, const ITexts& texts);
+    CUpdateProgress(IForecastServer& server, const ITexts& texts) : m_server(server), m_texts(texts) {}
 
     void OnPlace(std::u16string_view place, std::size_t number, std::size_t total) override;
-    bool Cancelled() override;
+    bool Cancelled() override { return m_server.Cancelled(); }
 
 private:
+    IForecastServer& m_server;
     const ITexts& m_texts;
-    QProgressDialog m_dialog;
 };
 
 }  // namespace rlx

@@ -90,9 +90,7 @@ void CWeatherScreen::MakeLinks() {
     m_next = add("nextDay", kLink, kTextNextDay, [this] { StepDay(1); });
     m_next->SetIcon("back", true);
     m_dayName = add("dayName", SkinKey::kWeatherDAYSC, kTextOverview, [this] { SetDayByDay(false); });
-    m_empty = add("updateNow", kLink, kTextUpdate, [this] { Update(); });
-    m_empty->SetIcon("update");
-    m_empty->setText(ToQString(m_ports.resources.Text(kTextUpdate)));
+    m_empty = add("updateNow", kLink, kTextUpdate, [this] { HasCity() ? Update() : ChangePlace(m_shown); });
 }
 
 void CWeatherScreen::MakeDays() {
@@ -160,7 +158,7 @@ void CWeatherScreen::Refresh() {
     m_dayByDay = m_choices.DayByDay();
     for (std::size_t slot = 0; slot < m_places.size(); ++slot) {
         const QString name = ToQString(m_ports.cities.GetName(m_places[slot]));
-        m_placeButtons[slot]->setText(name);
+        m_placeButtons[slot]->setText(name.isEmpty() ? ToQString(m_ports.resources.Text(kTextPlaceWithoutCity)) : name);
         m_placeButtons[slot]->setToolTip(ToQString(m_ports.cities.GetPlace(m_places[slot])));
         m_placeButtons[slot]->setChecked(slot == m_shown);
     }
@@ -177,6 +175,12 @@ void CWeatherScreen::ShowForecast() {
     m_forecast = Forecasts().Of(m_places[m_shown]);
     m_heading->setText(
         ToQString(m_forecast.country.empty() ? m_forecast.name : m_forecast.name + u", " + m_forecast.country));
+    if (!HasCity()) m_heading->setText(ToQString(m_ports.resources.Text(kTextPlaceWithoutCity)));
+    const int act = HasCity() ? kTextUpdate : kTextChooseWeatherPlace;
+    m_empty->setText(ToQString(m_ports.resources.Text(act)));
+    m_empty->setAccessibleName(m_empty->text());
+    m_empty->setToolTip(m_empty->text());
+    m_empty->SetIcon(HasCity() ? "update" : "");
     const auto days = m_forecast.DaysToShow().size();
     if (m_day >= days) m_day = 0;
     ShowDays();
@@ -213,8 +217,10 @@ void CWeatherScreen::ShowOrigin() {
     const CWeatherTexts texts(resources, m_unit);
     QStringList marks;
     if (m_forecast.freshness.stale) marks << ToQString(resources.Text(kTextStale));
+    if (m_notUpdated.contains(m_forecast.place)) marks << ToQString(resources.Text(kTextNotUpdated));
     if (IsSample(forecast)) marks << ToQString(resources.Text(kTextSample));
-    m_origin->Show(marks, ToQString(texts.Issued(forecast)), ToQString(texts.Source(forecast)));
+    const auto source = m_forecast.IsOver() ? resources.Text(kTextDaysGone) : texts.Source(forecast);
+    m_origin->Show(marks, ToQString(texts.Issued(forecast)), ToQString(source));
 }
 
 void CWeatherScreen::Arrange() {
@@ -265,7 +271,13 @@ void CWeatherScreen::paintEvent(QPaintEvent* /*event*/) {
     painter.setFont(font);
     painter.setPen(m_ports.look.Colour(SkinKey::kWeatherSATC));
     painter.drawText(QRectF(body.left(), body.top() + body.height() * 0.48, body.width(), body.height() * 0.24),
-                     Qt::AlignCenter | Qt::TextWordWrap, ToQString(m_ports.resources.Text(kTextNoForecast)));
+                     Qt::AlignCenter | Qt::TextWordWrap, EmptyText());
+}
+
+QString CWeatherScreen::EmptyText() const {
+    int text = kTextPlaceGone;
+    if (HasCity()) text = m_notServed.contains(m_forecast.place) ? kTextPlaceNotServed : kTextNoForecast;
+    return ToQString(m_ports.resources.Text(text));
 }
 
 void CWeatherScreen::resizeEvent(QResizeEvent* /*event*/) {
@@ -301,23 +313,40 @@ void CWeatherScreen::Update() {
     if (m_updating) return;
     m_updating = true;
     m_ports.store.EnsureCreated();
+    const auto places = PlacesToUpdate();
+    m_ports.withServer([&](IForecastServer& server) {
+        CUpdateProgress progress(server, m_ports.resources);
+        const auto request = [&](const std::u16string& feedName) { return server.Ask(feedName, size()); };
+        CWeatherUpdate update(m_ports.store, request, m_ports.boxes, m_ports.resources);
+        const auto results = update.Run(
+            places, [this] { return Forecasts().UtcNow(); }, &progress);
+        TakeResults(places, results);
+    });
+    m_updating = false;
+    m_day = 0;
+    ShowForecast();
+}
+
+std::vector<std::u16string> CWeatherScreen::PlacesToUpdate() {
     std::vector<std::u16string> places;
     for (const auto city : m_places) {
         const auto place = m_ports.cities.GetPlace(city);
         if (!place.empty() && std::ranges::find(places, place) == places.end()) places.push_back(place);
     }
-    {
-        CUpdateProgress progress(window(), m_ports.resources);
-        const auto request = [&](const std::u16string& feedName) {
-            return m_ports.request(feedName, size(), [&progress] { return !progress.Cancelled(); });
-        };
-        CWeatherUpdate update(m_ports.store, request, m_ports.boxes, m_ports.resources);
-        update.Run(
-            places, [this] { return Forecasts().UtcNow(); }, &progress);
+    return places;
+}
+
+/// What is shown of a place that could not be updated is the last good forecast, and says so.
+void CWeatherScreen::TakeResults(const std::vector<std::u16string>& places, const std::vector<PlaceUpdate>& results) {
+    const bool unreachable = !results.empty() && results.front() == PlaceUpdate::kNoReply;
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        const bool good = results[i] == PlaceUpdate::kSaved || results[i] == PlaceUpdate::kOlder;
+        const bool asked = results[i] != PlaceUpdate::kNotAsked || unreachable;
+        if (good) m_notUpdated.erase(places[i]);
+        if (!good && asked) m_notUpdated.insert(places[i]);
+        if (results[i] == PlaceUpdate::kUnknown || results[i] == PlaceUpdate::kEmpty) m_notServed.insert(places[i]);
+        if (good) m_notServed.erase(places[i]);
     }
-    m_updating = false;
-    m_day = 0;
-    ShowForecast();
 }
 
 void CWeatherScreen::ChangePlace(std::size_t slot) {

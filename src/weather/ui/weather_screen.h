@@ -5,6 +5,7 @@
 #include <array>
 #include <functional>
 #include <optional>
+#include <set>
 
 #include "platform/message_boxes.h"
 #include "shell/resources.h"
@@ -15,6 +16,7 @@
 #include "weather/ui/day_card.h"
 #include "weather/ui/day_details.h"
 #include "weather/ui/forecast_origin.h"
+#include "weather/ui/forecast_server.h"
 #include "weather/ui/link_button.h"
 #include "weather/ui/week_chart.h"
 #include "weather/weather_settings.h"
@@ -25,12 +27,6 @@ namespace rlx {
 /// Lets the user choose a city; nothing when the choice was called off. The arguments are the window to stand in front
 /// of, the title, and the city chosen so far.
 using CityChooser = std::function<std::optional<CityIndex>(QWidget*, const QString&, CityIndex)>;
-
-/// Asks the feed server for the forecast of a feed name, for a screen of that size, and waits for the reply; empty on
-/// any failure, which was then reported. While it waits it calls the function many times a second and ends when that
-/// says false.
-using WeatherRequest =
-    std::function<std::u16string(const std::u16string& feedName, const QSize& screen, const std::function<bool()>&)>;
 
 /// What the Weather screen works with; all of it outlives the screen.
 struct WeatherPorts {
@@ -44,7 +40,7 @@ struct WeatherPorts {
     CWeatherStore& store;
     std::filesystem::path applicationFolder;
     CityChooser chooseCity;
-    WeatherRequest request;
+    WithForecastServer withServer;
 };
 
 /// The forecast of one of four places: five days at a glance, or one day with all its values and the picture of the
@@ -88,6 +84,10 @@ private:
     void ShowDays();
     void ShowOrigin();
     void ShowTip();
+    void TakeResults(const std::vector<std::u16string>& places, const std::vector<PlaceUpdate>& results);
+    std::vector<std::u16string> PlacesToUpdate();
+    bool HasCity() const { return !m_forecast.place.empty(); }
+    QString EmptyText() const;
     void ChooseIcons();
     void SelectPlace(std::size_t slot);
     void SelectDay(std::size_t day);
@@ -110,6 +110,8 @@ private:
     std::int64_t m_minute = 0;  ///< at which the forecast was last looked at
     TemperatureUnit m_unit = TemperatureUnit::kCelsius;
     PlaceForecast m_forecast;
+    std::set<std::u16string> m_notUpdated;  ///< places that the last update in this run left as they were
+    std::set<std::u16string> m_notServed;   ///< those for which the server had no forecast at all
 
     std::array<CLinkButton*, kWeatherPlaceCount> m_placeButtons{};
     CLinkButton* m_view = nullptr;

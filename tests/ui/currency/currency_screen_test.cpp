@@ -105,6 +105,19 @@ TEST_F(CurrencyScreen, SwapTurnsThePairAndKeepsTheAmount) {
     EXPECT_EQ(stored, EncodePair({kEuro, kDollar}));
 }
 
+TEST_F(CurrencyScreen, RateCardStandsWhereThereIsRoomAndFollowsTheChoice) {
+    const auto* card = screen->findChild<QWidget*>("rateCard");
+    EXPECT_FALSE(card->isVisible());
+    screen->resize(1180, 756);
+    ASSERT_TRUE(card->isVisible());
+    const QRect panel = screen->findChild<CPairPanel*>("pair2")->geometry();
+    EXPECT_FALSE(card->geometry().intersects(panel));
+    EXPECT_EQ(card->accessibleDescription(),
+              "1 USD is\n0.8000 EUR, Euro\n0.5000 GBP, Pound Sterling\n160.00 JPY, Japanese Yen\n29/9/2026");
+    Choose(1, 0, "euro");
+    EXPECT_TRUE(card->accessibleDescription().startsWith("1 EUR is\n")) << card->accessibleDescription().toStdString();
+}
+
 TEST_F(CurrencyScreen, CopiesTheResult) {
     Type(1, 1, "10");
     QTest::mouseClick(Find<QToolButton>(1, "copy"), Qt::LeftButton);

@@ -1,8 +1,10 @@
 #include "news/ui/news_screen.h"
 
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include "platform/fake/fixed_clock.h"
 #include "platform/fake/memory_registry.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "platform/image/image_codec.h"
@@ -10,6 +12,7 @@
 #include "shell/resources.h"
 #include "shell/setting_names.h"
 #include "support/memory_files.h"
+#include "support/scripted_server.h"
 
 namespace rlx {
 namespace {
@@ -38,7 +41,8 @@ protected:
     CScriptedMessageBoxes boxes;
     CNewsPage page{registry, files, resources, "/app"};
     QStringList opened;
-    CNewsScreen screen{page, resources, boxes, look, [this](const QUrl& link) { opened << link.toString(); }};
+    CFixedClock clock{{{2026, 11, 22}, 12, 0, 0, 0}};
+    CNewsScreen screen{page, {clock, resources, boxes, look}, [this](const QUrl& link) { opened << link.toString(); }};
     CNewsView* view = screen.findChild<CNewsView*>("newsView");
 };
 
@@ -61,16 +65,40 @@ TEST_F(NewsScreen, ShowingThePageSetsTheFlags) {
     EXPECT_TRUE(page.State().newsRead);
 }
 
+/// Whatever a page asks for: nothing reaches the network, and no file beside the page is read.
 TEST_F(NewsScreen, LoadsNothingButThePage) {
-    // A picture beside the page and a style sheet: neither may be read, from wherever.
-    QImage(8, 8, QImage::Format_RGB32).save(QDir::temp().filePath("rlx_news_picture.png"));
-    const std::string picture = "file://" + QDir::temp().filePath("rlx_news_picture.png").toStdString();
-    Put("<html><head><link rel=stylesheet href='file:///etc/passwd'></head><body><img src='" + picture +
-        "'><script>x</script>text</body></html>");
-    const QUrl name(QString::fromStdString(picture));
-    const QVariant loaded = view->document()->resource(QTextDocument::ImageResource, name);
-    EXPECT_TRUE(loaded.metaType() == QMetaType::fromType<QByteArray>() && loaded.toByteArray().isEmpty());
-    EXPECT_TRUE(view->toPlainText().contains("text"));
+    test::CScriptedServer server({});
+    const QString web = QString::fromStdU16String(server.Url());
+    QTemporaryDir folder;
+    const QString picture = folder.filePath("picture.png");
+    QImage(300, 300, QImage::Format_RGB32).save(picture);
+    for (const QString& url : {web, "file://" + picture, picture, QStringLiteral("javascript:alert(1)")}) {
+        const QString html = QStringLiteral(
+            "<html><head><base href='%1'><meta http-equiv=refresh content='0;url=%1'><link rel=stylesheet href='%1'>"
+            "<style>@import url(%1); body { background-image: url(%1); list-style-image: url(%1) }</style></head>"
+            "<body background='%1' onload='%1'><img src='%1'><table background='%1'><tr><td>text</table>"
+            "<iframe src='%1'></iframe><object data='%1'></object><embed src='%1'><video src='%1'></video>"
+            "<script src='%1'>x</script><form action='%1'><input type=image src='%1'></form></body></html>");
+        Put(html.arg(url).toStdString());
+        view->grab();
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(server.Requests().empty()) << url.toStdString();
+        EXPECT_TRUE(view->toPlainText().contains("text"));
+        EXPECT_LT(view->document()->size().height(), 300) << "the picture was read: " << url.toStdString();
+    }
+}
+
+TEST_F(NewsScreen, SaysWhereThePageComesFromAndHowOldItIs) {
+    const auto origin = [this] { return screen.findChild<QWidget*>("zoomBar")->accessibleDescription(); };
+    screen.Entered();
+    EXPECT_EQ(origin(), "");
+    settings.WriteString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kNewsDate, u"2026-11-20");
+    settings.WriteString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kNewsSource, u"news.example.org");
+    Put("<html><body>text</body></html>");
+    EXPECT_EQ(origin(), "Fetched on 20/11/2026, Source: news.example.org");
+    clock.Set({{2026, 11, 24}, 0, 0, 0, 0});
+    screen.Tick();
+    EXPECT_EQ(origin(), "out of date, Fetched on 20/11/2026, Source: news.example.org");
 }
 
 TEST_F(NewsScreen, OpensALinkOnlyAfterAQuestion) {
@@ -100,12 +128,13 @@ TEST_F(NewsScreen, OpensALinkOnlyAfterAQuestion) {
 
 TEST_F(NewsScreen, SquaresInTheCornerChangeTheSize) {
     Put("<html><body>text</body></html>");
-    const auto tap = [this](int fromRight, int fromBottom) {
-        const QWidget* area = view->viewport();
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
-                          {area->width() - fromRight, area->height() - fromBottom});
+    auto* bar = screen.findChild<QWidget*>("zoomBar");
+    const auto tap = [&](int fromRight, int fromBottom) {
+        QTest::mouseClick(bar, Qt::LeftButton, {}, {bar->width() - fromRight, bar->height() - fromBottom});
         return view->ZoomLevel();
     };
+    EXPECT_FALSE(view->geometry().intersects(bar->geometry())) << "no text lies under the squares";
+    EXPECT_EQ(bar->geometry().bottomRight(), screen.rect().bottomRight());
     EXPECT_EQ(view->ZoomLevel(), 2);
     const int before = view->document()->defaultFont().pixelSize();
     EXPECT_EQ(tap(13, 13), 3);

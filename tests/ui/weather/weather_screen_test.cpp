@@ -1,6 +1,6 @@
 #include "weather/ui/weather_screen.h"
 
-#include <QProgressDialog>
+#include <QMenu>
 #include <QTest>
 
 #include "base/text.h"
@@ -22,6 +22,22 @@ std::u16string Reply(std::u16string_view source = u"Open-Meteo", std::u16string_
            u"2026-11-25_;;;;;;;;;#"
            u"2026-11-26_0;8;1;0;0;10;10;60;08:20;16:57#end_6#";
 }
+
+/// Answers by a function; one that answers nothing has no forecast of that name.
+class CServer : public IForecastServer {
+public:
+    std::vector<std::u16string> asked;
+    std::function<FeedReply(const std::u16string&)> answer;
+    QString subject;
+    bool cancelled = false;
+
+    FeedReply Ask(const std::u16string& feedName, const QSize& /*screen*/) override {
+        asked.push_back(feedName);
+        return answer ? answer(feedName) : FeedReply{{}, FeedOutcome::kAnswered};
+    }
+    void SetSubject(const QString& text) override { subject = text; }
+    bool Cancelled() const override { return cancelled; }
+};
 
 class WeatherScreen : public ::testing::Test {
 protected:
@@ -57,25 +73,74 @@ protected:
     CLook look{device.files, codec};
     CWeatherStore store{device.store, device.files, "/app/cities.wet"};
     std::optional<CityIndex> choice;
-    std::vector<std::u16string> asked;
-    std::function<std::u16string(const std::u16string&, const std::function<bool()>&)> server;
+    CServer server;
     CWeatherScreen screen{{device.cities, device.clock, device.settings, device.resources, device.boxes, look,
                            device.files, store, "/app", [this](QWidget*, const QString&, CityIndex) { return choice; },
-                           [this](const std::u16string& feedName, const QSize&, const std::function<bool()>& goOn) {
-                               asked.push_back(feedName);
-                               return server ? server(feedName, goOn) : std::u16string();
-                           }}};
+                           [this](const auto& update) { update(server); }}};
 };
 
 TEST_F(WeatherScreen, WithoutAForecastItOffersToFetchOne) {
     EXPECT_FALSE(Find("day0")->isVisible());
     EXPECT_EQ(Origin(), "\n");
-    server = [](const std::u16string& name, const auto&) { return name == u"amsterdam_nl" ? Reply() : u""; };
+    server.answer = [](const std::u16string& name) {
+        return FeedReply{name == u"amsterdam_nl" ? Reply() : u"", FeedOutcome::kAnswered};
+    };
     Click("updateNow");
-    EXPECT_EQ(asked, (std::vector<std::u16string>{u"amsterdam_nl", u"London", u"New York", u"Sydney"}));
+    EXPECT_EQ(server.asked, (std::vector<std::u16string>{u"amsterdam_nl", u"London", u"New York", u"Sydney"}));
     EXPECT_TRUE(Find("day0")->isVisible());
     EXPECT_FALSE(Find("updateNow")->isVisible());
     ASSERT_EQ(device.boxes.shown.size(), 1U);  // the three others have no forecast
+    EXPECT_EQ(server.subject, "Sydney: 4 of 4");
+}
+
+TEST_F(WeatherScreen, AFailedUpdateKeepsTheLastGoodForecastAndSaysSo) {
+    Fill(Reply());
+    server.answer = [](const auto&) { return FeedReply{{}, FeedOutcome::kFailed}; };
+    Click("update");
+    EXPECT_EQ(server.asked.size(), 1U);
+    EXPECT_TRUE(Find("day0")->isVisible());
+    EXPECT_TRUE(Origin().starts_with("not updated\n")) << Origin();
+    server.answer = [](const auto&) { return FeedReply{Reply(), FeedOutcome::kAnswered}; };
+    Click("update");
+    EXPECT_TRUE(Origin().starts_with("Forecast of ")) << Origin();
+}
+
+TEST_F(WeatherScreen, APlaceWhoseCityIsGoneIsChosenAnew) {
+    device.settings.WriteDword(RootOf(keys::kWeather), keys::kWeather, u"wetp2", 4'000'000);
+    screen.Refresh();
+    EXPECT_EQ(Find<CLinkButton>("place1")->text(), "no city");
+    Click("place1");
+    EXPECT_EQ(Find<CLinkButton>("heading")->text(), "no city");
+    choice = 0;
+    Fill(Reply());
+    Click("updateNow");
+    EXPECT_EQ(Find<CLinkButton>("place1")->text(), "Amsterdam");
+    EXPECT_TRUE(Find("day0")->isVisible());
+    EXPECT_TRUE(server.asked.empty());
+}
+
+TEST_F(WeatherScreen, AFingerThatRestsOnAPlaceOpensItsMenu) {
+    auto* menu = Find<QMenu>("weatherMenu");
+    QTest::mousePress(Find("place2"), Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return menu->isVisible(); }));
+    choice = 0;
+    menu->actions().front()->trigger();
+    menu->close();
+    EXPECT_EQ(Find<CLinkButton>("place2")->text(), "Amsterdam");
+}
+
+TEST_F(WeatherScreen, OffersTheIconSetsThatLieInTheFolder) {
+    auto* icons = Find<QMenu>("weatherMenu")->findChild<QMenu*>();
+    ASSERT_NE(icons, nullptr);
+    device.files.files["/app/wiconsets/Clouds/fog.png"] = "no picture";
+    emit icons->aboutToShow();
+    QStringList names;
+    for (const QAction* each : icons->actions())
+        names << each->text() + (each->isChecked() ? "*" : "");
+    EXPECT_EQ(names.join(",").toStdString(), "As the skin has them*,Standard,Clouds");
+    icons->actions().last()->trigger();
+    emit icons->aboutToShow();
+    EXPECT_TRUE(icons->actions().last()->isChecked());
 }
 
 TEST_F(WeatherScreen, DaysOfTheCityFromTodayOnWithADashForWhatIsMissing) {
@@ -101,6 +166,7 @@ TEST_F(WeatherScreen, OldDaysAreNeverCalledTodayAndSaySo) {
     device.clock.Set({{2026, 12, 23}, 9, 0, 1, 0});
     screen.Refresh();
     EXPECT_TRUE(Card(0).starts_with("21/11 Sat, ")) << Card(0);
+    EXPECT_TRUE(Origin().ends_with("\nThe days of this forecast have passed. Tap Update.")) << Origin();
 }
 
 TEST_F(WeatherScreen, FahrenheitIsKept) {
@@ -153,14 +219,14 @@ TEST_F(WeatherScreen, EachPlaceHasACityOfItsOwn) {
 }
 
 TEST_F(WeatherScreen, CancelledUpdateKeepsWhatCameAndSaysNothing) {
-    server = [this](const std::u16string&, const std::function<bool()>& goOn) {
-        if (asked.size() == 1) return Reply();
-        screen.findChild<QProgressDialog*>("weatherProgress")->cancel();
-        EXPECT_FALSE(goOn());
-        return std::u16string();
+    server.answer = [this](const auto&) {
+        if (server.asked.size() == 1) return FeedReply{Reply(), FeedOutcome::kAnswered};
+        server.cancelled = true;
+        return FeedReply{{}, FeedOutcome::kCancelled};
     };
     Click("update");
-    EXPECT_EQ(asked.size(), 2U);
+    EXPECT_EQ(server.asked.size(), 2U);
+    EXPECT_TRUE(Origin().starts_with("Forecast of ")) << Origin();
     EXPECT_TRUE(Find("day0")->isVisible());
     EXPECT_TRUE(device.boxes.shown.empty());
 }
