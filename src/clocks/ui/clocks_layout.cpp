@@ -39,6 +39,8 @@ ClockCell CellOf(const QRectF& card, double padding) {
         inner.adjust(0, (inner.height() - height) / 2, 0, -(inner.height() - height) / 2);
     }
     cell.texts = inner;
+    const double bell = std::clamp(card.height() * 0.11, 12.0, 26.0);
+    cell.bell = QRectF(card.right() - padding - bell * 1.7, card.top() + padding, bell * 1.7, bell);
     return cell;
 }
 
