@@ -19,7 +19,7 @@ QFont Bold(QFont font) {
 void CReminderRow::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
     QStyleOptionViewItem row = option;
     initStyleOption(&row, index);
-    const QStringList lines = row.text.split('\n');
+    const QStringList lines = index.data().toString().split('\n');
     row.text.clear();
     const QStyle* style = row.widget != nullptr ? row.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
