@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QGuiApplication>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -33,11 +34,12 @@ bool CDesktopNotifier::Notify(const Notification& notification) {
     if (!QDBusConnection::sessionBus().isConnected()) return false;
     const QString text = ToQString(notification.text);
     const QVariantMap hints{{"urgency", QVariant::fromValue(kCritical)},
-                            {"desktop-entry", "roamlytix"},
+                            {"desktop-entry", QGuiApplication::desktopFileName()},
                             {"sound-name", "alarm-clock-elapsed"}};
     const QDBusMessage reply =
-        Call("Notify", {m_appName, QVariant::fromValue(uint{0}), "roamlytix", ToQString(notification.title),
-                        KnowsMarkup() ? text.toHtmlEscaped() : text, QStringList(), hints, kNeverExpires});
+        Call("Notify", {m_appName, QVariant::fromValue(uint{0}), QGuiApplication::desktopFileName(),
+                        ToQString(notification.title), KnowsMarkup() ? text.toHtmlEscaped() : text, QStringList(),
+                        hints, kNeverExpires});
     return reply.type() == QDBusMessage::ReplyMessage;
 }
 

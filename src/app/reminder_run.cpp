@@ -1,6 +1,7 @@
 #include "app/reminder_run.h"
 
 #include "app/reminder_duty.h"
+#include "shell/language_start.h"
 #include "shell/program_paths.h"
 
 namespace rlx {
@@ -10,11 +11,12 @@ int TellReminders(const WindowOptions& options) {
     const CFrozenClock clock(systemClock, options.now, options.bias);
     CPosixFileSystem files;
     CSilentMessageBoxes boxes;
-    const CResources resources;
     const std::filesystem::path file = DeviceStoreFile(options.store);
     const OpenedStore opened = OpenDeviceStore(file, clock);
     const FolderSources sources = ProgramFolders(options.home);
     const CApplicationFolder folder(files, PrepareApplicationFolder(files, sources).value_or(sources.executableFolder));
+    CRegistryStore settings(opened.store->Registry());
+    const CResources resources = StartLanguage(files, folder, settings).resources;
     CCityDatabase cities(opened.store->Objects(), files, boxes, resources,
                          folder.Path(u"\\cities.lst").value_or(folder.Root() / "cities.lst"));
     cities.EnsureCreated();

@@ -23,6 +23,7 @@ enum DialogId : int {
     kDialogNewCategory = 336,   // Packing List > New category
     kDialogReminders = 350,
     kDialogReminder = 351,
+    kDialogChooseFolder = 353,  // its title comes from the string table
 };
 
 enum ControlId : int {
@@ -89,6 +90,8 @@ enum ControlId : int {
     kControlReminderDate = 1372,
     kControlReminderTime = 1373,
     kControlReminderNote = 1374,
+    kControlFolderPath = 1390,
+    kControlFolderList = 1391,
 };
 
 }  // namespace rlx
