@@ -49,6 +49,7 @@ CApplication::CApplication(const WindowOptions& options)
     m_skins = std::make_unique<CSkinCommands>(SkinPorts{m_files, m_codec, m_resources, m_boxes}, m_folder->Root(),
                                               *m_settings, m_look, *m_window);
     MakeScreens();
+    MakeReminders();
     MakeCommands();
     connect(&m_look, &CLook::Changed, this, &CApplication::ApplyLook);
     m_skins->Load();
@@ -158,8 +159,19 @@ void CApplication::MakeWeather() {
     m_window->AddScreen(m_weatherScreen);
 }
 
+void CApplication::MakeReminders() {
+    const CityChooser choose = [this](QWidget* parent, const QString& title, CityIndex current) {
+        return ChooseCity(parent, title, current);
+    };
+    m_reminderDuty.emplace(CReminderDuty::Ports{m_files, m_store->Registry(), *m_cities, m_clock, m_resources},
+                           CReminderDuty::Run{m_options.store, m_options.home, m_options.now || m_options.bias});
+    m_reminders.emplace(ReminderPorts{m_store->Registry(), *m_cities, m_clock, m_resources, m_boxes, choose},
+                        *m_reminderDuty, *m_clocksScreen, *m_window);
+}
+
 void CApplication::MakeCommands() {
     m_commands.Add(kCommandHomeCity, this, [this] { m_clocksScreen->ChangeCity(0); });
+    m_commands.Add(kCommandReminders, this, [this] { m_reminders->Open(std::nullopt); });
     m_commands.Add(kCommandTwelveHour, this, [this] { ToggleSetting(keys::kRoamlytix, names::kTwelveHour); })
         ->setCheckable(true);
     m_commands.Add(kCommandDeviceTimeZone, this, [this] { ToggleSetting(keys::kWorldClock, names::kSyncZone); })
@@ -252,6 +264,7 @@ void CApplication::Show() {
     } else {
         m_window->show();
     }
+    m_reminders->Start();
 }
 
 }  // namespace rlx

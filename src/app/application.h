@@ -8,6 +8,7 @@
 #include "app/feed_wiring.h"
 #include "app/language_commands.h"
 #include "app/main_window.h"
+#include "app/reminder_commands.h"
 #include "app/silent_message_boxes.h"
 #include "app/skin_commands.h"
 #include "base/calendar.h"
@@ -64,6 +65,7 @@ private:
     void MakeScreens();
     void MakeTools();
     void MakeWeather();
+    void MakeReminders();
     void MakeCommands();
     void RestoreScreen();
     void ApplyLook();
@@ -100,6 +102,8 @@ private:
     CToolsScreen* m_toolsScreen = nullptr;      ///< owned by the window
     CWeatherScreen* m_weatherScreen = nullptr;  ///< owned by the window
     std::unique_ptr<CSkinCommands> m_skins;
+    std::optional<CReminderDuty> m_reminderDuty;
+    std::optional<CReminderCommands> m_reminders;
 };
 
 }  // namespace rlx

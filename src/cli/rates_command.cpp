@@ -1,13 +1,13 @@
 #include <algorithm>
 #include <memory>
 
+#include "base/iso_day.h"
 #include "base/text.h"
 #include "cli/commands.h"
 #include "cli/feed_session.h"
 #include "currency/currency_convert.h"
 #include "currency/text_ids.h"
 #include "feeds/currency_database.h"
-#include "feeds/iso_day.h"
 #include "feeds/rates_origin.h"
 #include "feeds/rates_update.h"
 #include "shell/text_ids.h"

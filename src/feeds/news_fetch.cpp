@@ -2,9 +2,9 @@
 
 #include <utility>
 
+#include "base/iso_day.h"
 #include "base/text.h"
 #include "feeds/http_url.h"
-#include "feeds/iso_day.h"
 #include "feeds/text_ids.h"
 #include "shell/setting_names.h"
 #include "shell/text_ids.h"

@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "base/iso_day.h"
 #include "base/text.h"
-#include "feeds/iso_day.h"
 #include "feeds/news_fetch.h"
 #include "news/text_ids.h"
 #include "shell/fill_text.h"

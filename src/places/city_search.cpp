@@ -69,6 +69,12 @@ CityIndex CCitySearch::FirstFrom(std::u16string_view place) {
     return low;
 }
 
+std::optional<CityIndex> CCitySearch::FindPlace(std::u16string_view place) {
+    const CityIndex found = FirstFrom(place);
+    if (place.empty() || m_cities.GetPlace(found) != place) return std::nullopt;
+    return found;
+}
+
 std::vector<CityIndex> CCitySearch::Find(std::u16string_view text) {
     Load();
     const std::u16string folded = FoldForSearch(Trim(text));

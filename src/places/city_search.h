@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,9 @@ public:
     /// with it, and at last those that have it anywhere. Equals stand in the order of their indexes; all for an empty
     /// text. The cities are read at the first call; `Forget` after the list of cities has changed.
     std::vector<CityIndex> Find(std::u16string_view text);
+
+    /// The city of exactly that place (name, colon, country), the first where several have it.
+    std::optional<CityIndex> FindPlace(std::u16string_view place);
 
     void Forget() { m_entries.clear(); }
 

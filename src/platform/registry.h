@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,12 @@ struct RegistryValue {
     std::string bytes;
 
     friend bool operator==(const RegistryValue&, const RegistryValue&) = default;
+};
+
+/// What a value of a key is to be, or is expected to be; without `value`: not there.
+struct RegistryAssignment {
+    std::u16string_view name;
+    std::optional<RegistryValue> value;
 };
 
 /// A value with its place, for listings.
@@ -60,6 +67,12 @@ public:
 
     /// Removes one value; true when it is not there afterwards.
     virtual bool Remove(RegistryRoot root, std::u16string_view key, std::u16string_view name) = 0;
+
+    /// Makes all `changes` of one key, creating it when missing, provided that every value that `expected` names is as
+    /// it says. One step: no other process comes in between, and a crash leaves all or nothing. False when a value was
+    /// not as expected or the device refuses; nothing is changed then.
+    virtual bool Exchange(RegistryRoot root, std::u16string_view key, std::span<const RegistryAssignment> expected,
+                          std::span<const RegistryAssignment> changes) = 0;
 
     /// Every value, ordered by root, key and name.
     virtual std::vector<RegistryEntry> List() = 0;

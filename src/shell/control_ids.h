@@ -21,6 +21,8 @@ enum DialogId : int {
     kDialogPickColour = 332,    // its title comes from the string table
     kDialogPickSkinFile = 333,  // a picture or a set of icons of a skin; its title comes from the string table
     kDialogNewCategory = 336,   // Packing List > New category
+    kDialogReminders = 350,
+    kDialogReminder = 351,
     kDialogChooseFolder = 353,  // its title comes from the string table
 };
 
@@ -80,6 +82,14 @@ enum ControlId : int {
     kControlSkinReset = 1212,
     kControlColourText = 1220,
     kControlSkinFileList = 1230,
+    kControlReminderList = 1360,
+    kControlReminderEdit = 1361,
+    kControlReminderClear = 1362,
+    kControlReminderText = 1370,
+    kControlReminderCity = 1371,
+    kControlReminderDate = 1372,
+    kControlReminderTime = 1373,
+    kControlReminderNote = 1374,
     kControlFolderPath = 1390,
     kControlFolderList = 1391,
 };

@@ -73,6 +73,13 @@ ControlKind ButtonKind(std::uint32_t style) {
     }
 }
 
+ControlKind NamedKind(std::u16string_view windowClass, std::uint32_t style) {
+    constexpr std::uint32_t kTimeFormat = 0x0008;
+    if (EqualIgnoringCase(windowClass, u"SysListView32")) return ControlKind::kListView;
+    if (!EqualIgnoringCase(windowClass, u"SysDateTimePick32")) return ControlKind::kOther;
+    return (style & kTimeFormat) != 0 ? ControlKind::kTimePicker : ControlKind::kDatePicker;
+}
+
 /// Sets the kind and what the style says for controls of that class alone.
 void Decode(DialogControl& control, const NameOrNumber& windowClass, std::uint32_t style) {
     switch (AtomOf(windowClass)) {
@@ -104,8 +111,7 @@ void Decode(DialogControl& control, const NameOrNumber& windowClass, std::uint32
             control.kind = (style & 0x0003) == 3 ? ControlKind::kDropDownList : ControlKind::kComboBox;
             break;
         default:
-            control.kind =
-                EqualIgnoringCase(windowClass.name, u"SysListView32") ? ControlKind::kListView : ControlKind::kOther;
+            control.kind = NamedKind(windowClass.name, style);
             control.className = windowClass.name;
     }
 }

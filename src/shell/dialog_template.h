@@ -20,6 +20,8 @@ enum class ControlKind {
     kDropDownList,
     kScrollBar,
     kListView,
+    kDatePicker,
+    kTimePicker,
     kOther,  // see DialogControl::className
 };
 
@@ -28,7 +30,7 @@ enum class ControlKind {
 struct DialogControl {
     int id = 0;  // a ControlId; -1 for controls that the program never names
     ControlKind kind = ControlKind::kOther;
-    std::u16string className;  // as given, for `kListView` and `kOther`
+    std::u16string className;  // as given, for `kListView`, the pickers and `kOther`
     std::u16string text;       // "&" marks the mnemonic
     int x = 0;
     int y = 0;

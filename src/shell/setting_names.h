@@ -76,6 +76,8 @@ inline constexpr std::u16string_view kRecentPairs = u"recent";
 inline constexpr std::u16string_view kAlarmTimes[5] = {u"clock", u"clock1", u"clock2", u"clock3", u"clock4"};
 inline constexpr std::u16string_view kAlarmDates[5] = {u"date", u"date1", u"date2", u"date3", u"date4"};
 inline constexpr std::u16string_view kAlarmTexts[5] = {u"desc", u"desc1", u"desc2", u"desc3", u"desc4"};
+inline constexpr std::u16string_view kAlarmCities[5] = {u"city", u"city1", u"city2", u"city3", u"city4"};
+inline constexpr std::u16string_view kAlarmMarks[5] = {u"told", u"told1", u"told2", u"told3", u"told4"};
 
 /// Value of `keys::kOwner`: the device owner's name; text.
 inline constexpr std::u16string_view kOwnerName = u"Owner";

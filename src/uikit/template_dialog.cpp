@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -11,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QTimeEdit>
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -122,6 +124,13 @@ QWidget* CTemplateDialog::MakeControl(const DialogControl& control) {
             return new QListWidget;
         case ControlKind::kListView:
             return MakeListView();
+        case ControlKind::kDatePicker: {
+            auto* picker = new QDateEdit;
+            picker->setCalendarPopup(true);
+            return picker;
+        }
+        case ControlKind::kTimePicker:
+            return new QTimeEdit;
         case ControlKind::kDropDownList:
             return new QComboBox;
         case ControlKind::kComboBox: {

@@ -53,6 +53,22 @@ TEST(SystemClock, ShowsTheTimeOfItsZone) {
     EXPECT_LT(ahead, 14 * 3600);
 }
 
+TEST(SystemClock, KnowsWhenItShowsATime) {
+    const CZone zone("CET-1CEST,M3.5.0,M10.5.0/3");
+    const struct {
+        const char* what;
+        DateTime local;
+        DateTime utc;
+    } rows[] = {{"winter", {{2026, 1, 1}, 0, 30, 0, 0}, {{2025, 12, 31}, 23, 30, 0, 0}},
+                {"summer", {{2026, 7, 1}, 12, 0, 5, 0}, {{2026, 7, 1}, 10, 0, 5, 0}},
+                {"just before it goes forward", {{2026, 3, 29}, 1, 59, 59, 0}, {{2026, 3, 29}, 0, 59, 59, 0}},
+                {"left out", {{2026, 3, 29}, 2, 30, 0, 0}, {{2026, 3, 29}, 1, 30, 0, 0}},
+                {"twice", {{2026, 10, 25}, 2, 30, 0, 0}, {{2026, 10, 25}, 0, 30, 0, 0}},
+                {"just after it went back", {{2026, 10, 25}, 3, 0, 0, 0}, {{2026, 10, 25}, 2, 0, 0, 0}}};
+    for (const auto& row : rows)
+        EXPECT_EQ(CSystemClock().UtcOf(row.local), row.utc) << row.what;
+}
+
 TEST(FrozenClock, ReplacesOnlyWhatIsGiven) {
     const DateTime fixed{.date = {2024, 2, 29}, .hour = 23};
     const CSystemClock system;

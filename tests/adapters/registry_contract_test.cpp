@@ -68,6 +68,23 @@ TEST_P(RegistryContract, AnyBytesUnderAnyNameComeBack) {
     EXPECT_FALSE(registry.Query(kMachine, u"K", u"plain"));
 }
 
+TEST_P(RegistryContract, ExchangeIsAllOrNothing) {
+    IRegistry& registry = Registry();
+    registry.Set(kMachine, u"K", u"old", Bytes("1"));
+    const RegistryAssignment changes[] = {{u"new", Bytes("2")}, {u"old", std::nullopt}};
+    const RegistryAssignment wrong[] = {{u"new", std::nullopt}, {u"old", Bytes("0")}};
+    const RegistryAssignment right[] = {{u"new", std::nullopt}, {u"old", Bytes("1")}};
+    EXPECT_FALSE(registry.Exchange(kMachine, u"K", wrong, changes));
+    EXPECT_EQ(registry.Query(kMachine, u"K", u"old"), Bytes("1"));
+    EXPECT_FALSE(registry.Query(kMachine, u"K", u"new"));
+    EXPECT_TRUE(registry.Exchange(kMachine, u"K", right, changes));
+    EXPECT_FALSE(registry.Query(kMachine, u"K", u"old"));
+    EXPECT_EQ(registry.Query(kMachine, u"K", u"new"), Bytes("2"));
+    EXPECT_FALSE(registry.Exchange(kMachine, u"K", right, changes)) << "once";
+    EXPECT_TRUE(registry.Exchange(kUser, u"A\\B", {}, changes));
+    EXPECT_EQ(registry.Query(kUser, u"A\\B", u"new"), Bytes("2"));
+}
+
 TEST_P(RegistryContract, NamesKeepTheOrderOfTheirFirstWriting) {
     IRegistry& registry = Registry();
     for (const char16_t* name : {u"z", u"a", u"m", u"z", u"a"})

@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "app/application.h"
+#include "app/reminder_run.h"
 #include "app/screenshots.h"
 #include "base/text.h"
 #include "shell/fill_text.h"
@@ -52,6 +53,7 @@ void Declare(QCommandLineParser& parser) {
                        {"now", "Freezes the device clock at YYYY-MM-DDTHH:MM:SS.", "time"},
                        {"bias", "Standard time-zone bias in minutes: UTC = local + bias.", "minutes"},
                        {"fullscreen", "Fills the whole screen."},
+                       {"remind", "Tells of the reminders that are due and ends; the session's timer runs this."},
                        {"screenshots", "Renders every screen to PNG files in a folder and ends.", "folder"},
                        {"sizes", "Sizes of the pictures.", "WxH,WxH...", kUsualSizes}});
 }
@@ -100,24 +102,39 @@ int WritePictures(const CommandLine& line) {
     return 0;
 }
 
+/// Reads the options; ends the process when they ask for help or are not understood.
+std::optional<CommandLine> ReadOptions(QCoreApplication& qt) {
+    QCoreApplication::setApplicationName("roamlytix");
+    QCoreApplication::setApplicationVersion(RLX_VERSION);
+    QGuiApplication::setDesktopFileName("org.roamlytix.Roamlytix");
+    QCommandLineParser parser;
+    Declare(parser);
+    parser.process(qt);
+    QString wrong;
+    auto line = Read(parser, wrong);
+    if (!line) Complain("\"" + wrong + "\" is not understood; see --help");
+    return line;
+}
+
+/// Needs no display.
+int Remind(int count, char** words) {
+    QCoreApplication qt(count, words);
+    const auto line = ReadOptions(qt);
+    return line ? rlx::TellReminders(line->window) : kWrongUsage;
+}
+
 }  // namespace
 
 int main(int count, char** words) {
+    if (HasWord(count, words, "--remind")) return Remind(count, words);
     if (HasWord(count, words, "--screenshots") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qInstallMessageHandler(DropPluginChatter);
     }
     QApplication::setStyle(new rlx::CWindowStyle);
     QApplication qt(count, words);
-    QApplication::setApplicationName("roamlytix");
-    QApplication::setApplicationVersion(RLX_VERSION);
-    QGuiApplication::setDesktopFileName("org.roamlytix.Roamlytix");
-    QCommandLineParser parser;
-    Declare(parser);
-    parser.process(qt);
-    QString wrong;
-    const auto line = Read(parser, wrong);
-    if (!line) return Complain("\"" + wrong + "\" is not understood; see --help");
+    const auto line = ReadOptions(qt);
+    if (!line) return kWrongUsage;
     if (!line->screenshots.isEmpty()) return WritePictures(*line);
     rlx::CApplication application(line->window);
     if (!application.HasWindow()) return kLanguageNotLoaded;

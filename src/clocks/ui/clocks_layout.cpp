@@ -39,6 +39,11 @@ ClockCell CellOf(const QRectF& card, double padding) {
         inner.adjust(0, (inner.height() - height) / 2, 0, -(inner.height() - height) / 2);
     }
     cell.texts = inner;
+    // A face above the texts leaves only the corner.
+    const double bell =
+        cell.centred ? std::clamp(card.height() * 0.06, 11.0, 26.0) : std::clamp(card.height() * 0.11, 12.0, 26.0);
+    const double edge = cell.centred ? padding * 0.7 : padding;
+    cell.bell = QRectF(card.right() - edge - bell * 1.7, card.top() + edge, bell * 1.7, bell);
     return cell;
 }
 

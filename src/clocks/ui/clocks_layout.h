@@ -10,7 +10,13 @@ struct ClockCell {
     QRectF card;  ///< the ground that the clock lies on and the place to tap
     QRectF face;  ///< empty where there is no room for a face
     QRectF texts;
+    QRectF bell;           ///< for what waits, in the card's upper right corner
     bool centred = false;  ///< texts under the face instead of beside it
+
+    /// Where a finger may touch the bell, card's corner included.
+    QRectF BellTap() const {
+        return {bell.topLeft() - QPointF(8, 8), card.topRight() + QPointF(0, bell.height() + 20)};
+    }
 };
 
 /// The home clock first, then the four others.

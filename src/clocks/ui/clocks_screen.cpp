@@ -16,6 +16,7 @@
 #include "shell/fill_text.h"
 #include "shell/setting_names.h"
 #include "shell/text_ids.h"
+#include "uikit/icons.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {
@@ -55,6 +56,9 @@ void CClocksScreen::MakeMenu() {
     m_commands.Add(kCommandClockInformation, this, [this] { ShowInformation(m_focused); });
     m_commands.Add(kCommandClockCity, this, [this] { ChangeCity(m_focused); });
     m_commands.Add(kCommandClockAsHome, this, [this] { UseAsHome(m_focused); });
+    m_commands.Add(kCommandClockReminder, this, [this] {
+        if (m_openReminders) m_openReminders(m_clocks[m_focused].cityIndex);
+    });
     m_menu.setObjectName("clockMenu");
     if (const auto entries = m_resources.Menu(kMenuClock)) FillMenu(m_menu, *entries, m_commands);
 }
@@ -76,6 +80,13 @@ void CClocksScreen::Entered() {
     m_settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kClocksTip, 1);
     m_boxes.Show(
         {m_resources.Text(kTextTip), m_resources.Text(kTextClocksTip), BoxIcon::kInformation, BoxButtons::kOk});
+}
+
+void CClocksScreen::SetWaitingReminders(int count) {
+    if (std::exchange(m_waitingReminders, count) == count) return;
+    const std::u16string text = FillText(m_resources.Text(kTextRemindersWait), {FormatInteger(m_waitingReminders)});
+    setToolTip(count > 0 ? ToQString(text) : QString());
+    update();
 }
 
 void CClocksScreen::ShowInformation(std::size_t clock) {
@@ -146,12 +157,29 @@ void CClocksScreen::PaintClock(QPainter& painter, std::size_t clock) const {
     PaintClockTexts(painter, cell.texts, TextsOf(clock), colours, cell.centred ? Qt::AlignHCenter : Qt::AlignLeft);
 }
 
+/// In the skin's colour of the home clock's date, as quiet as that.
+void CClocksScreen::PaintBell(QPainter& painter) const {
+    if (m_waitingReminders == 0) return;
+    const QRectF bell = m_layout[0].bell;
+    const QColor colour = m_look.Colour(SkinKey::kClocksCMD);
+    const int size = static_cast<int>(bell.height());
+    painter.drawPixmap(bell.topLeft(), TintedPixmap(QStringLiteral("reminder"), colour, size, devicePixelRatioF()));
+    painter.setPen(colour);
+    QFont font = painter.font();
+    font.setPixelSize(std::max(9, static_cast<int>(bell.height() * 0.72)));
+    font.setBold(true);
+    painter.setFont(font);
+    painter.drawText(bell.adjusted(size, 0, 0, 0), Qt::AlignVCenter | Qt::AlignHCenter,
+                     QString::number(m_waitingReminders));
+}
+
 void CClocksScreen::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     m_look.PaintBackground(painter, rect(), LookPicture::kClocks);
     painter.setRenderHint(QPainter::Antialiasing);
     for (std::size_t clock = 0; clock < m_clocks.size(); ++clock)
         PaintClock(painter, clock);
+    PaintBell(painter);
 }
 
 void CClocksScreen::resizeEvent(QResizeEvent* /*event*/) {
@@ -185,7 +213,12 @@ void CClocksScreen::mouseMoveEvent(QMouseEvent* event) {
 void CClocksScreen::mouseReleaseEvent(QMouseEvent* event) {
     m_longTap.stop();
     const auto clock = std::exchange(m_pressed, std::nullopt);
-    if (event->button() == Qt::LeftButton && clock) ShowInformation(*clock);
+    if (event->button() != Qt::LeftButton || !clock) return;
+    if (m_waitingReminders > 0 && m_openReminders && m_layout[0].BellTap().contains(event->position())) {
+        m_openReminders(std::nullopt);
+    } else {
+        ShowInformation(*clock);
+    }
 }
 
 void CClocksScreen::contextMenuEvent(QContextMenuEvent* event) {

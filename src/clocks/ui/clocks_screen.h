@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 
+#include "clocks/ui/choose_city.h"
 #include "clocks/ui/clock_painter.h"
 #include "clocks/ui/clocks_layout.h"
 #include "places/city_info.h"
@@ -20,10 +21,6 @@
 #include "uikit/template_menu.h"
 
 namespace rlx {
-
-/// Lets the user choose a city; nothing when the choice was called off. The arguments are the window to stand in front
-/// of, the title, and the city chosen so far.
-using CityChooser = std::function<std::optional<CityIndex>(QWidget*, const QString&, CityIndex)>;
 
 /// The home clock and four more. A tap tells about the city, a long tap or the menu key offers what can be done with
 /// the clock; the arrow keys move between the clocks. All five are painted by this one widget.
@@ -43,6 +40,13 @@ public:
 
     /// Called when the user wants to see more of a city's sun after its information box.
     void SetShowSunDetails(std::function<void(const CitySunDetails&)> show) { m_showSunDetails = std::move(show); }
+
+    /// Called when the user wants to see the reminders, or to set one for a city.
+    using OpenReminders = std::function<void(std::optional<CityIndex> city)>;
+    void SetOpenReminders(OpenReminders open) { m_openReminders = std::move(open); }
+
+    /// How many reminders wait; a bell with their number stands on the home clock's card, a tap on it opens them.
+    void SetWaitingReminders(int count);
 
     /// Shows the information box of one of the five clocks.
     void ShowInformation(std::size_t clock);
@@ -67,6 +71,7 @@ protected:
 
 private:
     void MakeMenu();
+    void PaintBell(QPainter& painter) const;
     void PaintClock(QPainter& painter, std::size_t clock) const;
     ClockTexts TextsOf(std::size_t clock) const;
     ClockColours ColoursOf(std::size_t clock) const;
@@ -85,6 +90,9 @@ private:
     const CLook& m_look;
     CityChooser m_chooseCity;
     std::function<void(const CitySunDetails&)> m_showSunDetails;
+
+    OpenReminders m_openReminders;
+    int m_waitingReminders = 0;
 
     std::optional<CCityTimes> m_times;  ///< made anew when the settings change
     std::array<ClockReading, 5> m_clocks;

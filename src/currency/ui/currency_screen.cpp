@@ -3,9 +3,9 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "base/iso_day.h"
 #include "currency/rate_card.h"
 #include "currency/text_ids.h"
-#include "feeds/iso_day.h"
 #include "shell/fill_text.h"
 #include "shell/text_ids.h"
 #include "skins/skin_file.h"

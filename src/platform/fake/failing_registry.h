@@ -29,6 +29,10 @@ public:
     bool Remove(RegistryRoot root, std::u16string_view key, std::u16string_view name) override {
         return m_writes.Allows() && m_registry.Remove(root, key, name);
     }
+    bool Exchange(RegistryRoot root, std::u16string_view key, std::span<const RegistryAssignment> expected,
+                  std::span<const RegistryAssignment> changes) override {
+        return m_writes.Allows() && m_registry.Exchange(root, key, expected, changes);
+    }
     std::vector<RegistryEntry> List() override {
         return m_failReads ? std::vector<RegistryEntry>() : m_registry.List();
     }

@@ -53,6 +53,18 @@ bool CMemoryRegistry::Remove(RegistryRoot root, std::u16string_view key, std::u1
     return true;
 }
 
+bool CMemoryRegistry::Exchange(RegistryRoot root, std::u16string_view key, std::span<const RegistryAssignment> expected,
+                               std::span<const RegistryAssignment> changes) {
+    if (key.size() > kMaxKeyLength) return false;
+    const auto isAsExpected = [&](const RegistryAssignment& value) {
+        return Query(root, key, value.name) == value.value;
+    };
+    if (!std::all_of(expected.begin(), expected.end(), isAsExpected)) return false;
+    for (const RegistryAssignment& change : changes)
+        change.value ? Set(root, key, change.name, *change.value) : Remove(root, key, change.name);
+    return true;
+}
+
 std::vector<RegistryEntry> CMemoryRegistry::List() {
     std::vector<RegistryEntry> entries;
     for (const auto& [key, values] : m_keys) {

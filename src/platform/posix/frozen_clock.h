@@ -14,6 +14,10 @@ public:
 
     DateTime Now() const override { return m_now ? *m_now : m_clock.Now(); }
     int StandardBias() const override { return m_bias ? *m_bias : m_clock.StandardBias(); }
+    DateTime UtcNow() const override { return m_now || m_bias ? IClock::UtcNow() : m_clock.UtcNow(); }
+    DateTime UtcOf(const DateTime& local) const override {
+        return m_now || m_bias ? IClock::UtcOf(local) : m_clock.UtcOf(local);
+    }
 
 private:
     const IClock& m_clock;

@@ -39,4 +39,22 @@ int CSystemClock::StandardBias() const {
     return static_cast<int>(-smallest / kSecondsPerMinute);
 }
 
+DateTime CSystemClock::UtcNow() const {
+    return DateTimeOfSecondNumber(time(nullptr));
+}
+
+/// A zone has one offset before a change and another after it, so the offsets of the days around the time are all that
+/// it can have.
+DateTime CSystemClock::UtcOf(const DateTime& local) const {
+    constexpr std::int64_t kDay = 86400;
+    tzset();
+    const std::int64_t wanted = SecondNumber(local);
+    const std::int64_t before = wanted - LocalTime(wanted - kDay).tm_gmtoff;
+    const std::int64_t after = wanted - LocalTime(wanted + kDay).tm_gmtoff;
+    const auto shows = [wanted](std::int64_t instant) { return instant + LocalTime(instant).tm_gmtoff == wanted; };
+    const auto [first, second] = std::minmax(before, after);
+    const std::int64_t instant = shows(first) ? first : shows(second) ? second : before;
+    return DateTimeOfSecondNumber(instant);
+}
+
 }  // namespace rlx

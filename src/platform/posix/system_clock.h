@@ -11,6 +11,9 @@ public:
 
     /// From the smallest offset from UTC on the first days of the twelve months of the current year.
     int StandardBias() const override;
+
+    DateTime UtcNow() const override;
+    DateTime UtcOf(const DateTime& local) const override;
 };
 
 }  // namespace rlx

@@ -1,5 +1,7 @@
 #include "platform/sqlite/sqlite_registry.h"
 
+#include <algorithm>
+
 #include "platform/sqlite/store_codec.h"
 
 namespace rlx {
@@ -92,6 +94,20 @@ bool CSqliteRegistry::Remove(RegistryRoot root, std::u16string_view key, std::u1
             "DELETE FROM registry_value WHERE key = "
             "(SELECT number FROM registry_key WHERE root = ? AND path = ?) AND name = ?");
         return statement.Bind(1, static_cast<int>(root)).BindBytes(2, path).BindBytes(3, valueName).Run();
+    });
+}
+
+bool CSqliteRegistry::Exchange(RegistryRoot root, std::u16string_view key, std::span<const RegistryAssignment> expected,
+                               std::span<const RegistryAssignment> changes) {
+    const auto isAsExpected = [&](const RegistryAssignment& value) {
+        return Query(root, key, value.name) == value.value;
+    };
+    const auto make = [&](const RegistryAssignment& change) {
+        return change.value ? Set(root, key, change.name, *change.value) : Remove(root, key, change.name);
+    };
+    return m_connection.Transact([&] {
+        return std::all_of(expected.begin(), expected.end(), isAsExpected) &&
+               std::all_of(changes.begin(), changes.end(), make);
     });
 }
 

@@ -15,6 +15,8 @@ public:
     std::optional<RegistryValue> Query(RegistryRoot root, std::u16string_view key, std::u16string_view name) override;
     bool Set(RegistryRoot root, std::u16string_view key, std::u16string_view name, const RegistryValue& value) override;
     bool Remove(RegistryRoot root, std::u16string_view key, std::u16string_view name) override;
+    bool Exchange(RegistryRoot root, std::u16string_view key, std::span<const RegistryAssignment> expected,
+                  std::span<const RegistryAssignment> changes) override;
     std::vector<RegistryEntry> List() override;
 
 private:
