@@ -16,6 +16,7 @@
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
 #include "shell/text_ids.h"
+#include "today/ui/today_dialog.h"
 #include "tools/clothing/ui/clothing_tool.h"
 #include "tools/converter/ui/converter_tool.h"
 #include "tools/dialing/ui/dialing_tool.h"
@@ -135,7 +136,7 @@ void CApplication::OpenSunDetails(const CitySunDetails& details) {
 
 void CApplication::MakeTools() {
     m_toolsScreen = new CToolsScreen(*m_settings, m_resources, m_look);
-    m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), m_resources, m_boxes, m_look));
+    m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), *m_settings, m_resources, m_boxes, m_look));
     m_toolsScreen->AddPage(new CDialingTool(m_resources, m_look));
     m_toolsScreen->AddPage(new CClothingTool(m_resources, m_look));
     m_toolsScreen->AddPage(new CPackingPage(m_files, m_folder->Root(), m_resources, m_boxes, m_look));
@@ -179,6 +180,8 @@ void CApplication::MakeCommands() {
     m_commands.Add(kCommandOwnerName, this, [this] { m_feeds->AskOwnerName(); });
     m_commands.Add(kCommandChooseSkin, this, [this] { m_skins->Choose(); });
     m_commands.Add(kCommandEditSkin, this, [this] { m_skins->Edit(); });
+    m_commands.Add(kCommandTodayOptions, this,
+                   [this] { CTodayDialog(*m_settings, m_resources, m_window.get()).exec(); });
     m_commands.Add(kCommandLanguage, this, [this] { m_languages->Choose(m_window.get()); });
     m_commands.Add(kCommandInstallLanguages, this, [this] { m_languages->Install(m_window.get()); });
     m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });

@@ -28,8 +28,6 @@ inline constexpr TextId kTextYouHaveNews = 33160;
 
 inline constexpr TextId kTextConnectionBefore = 41200;
 inline constexpr TextId kTextConnectionAfter = 41201;
-inline constexpr TextId kTextConnecting = 41205;
-inline constexpr TextId kTextOwnerName = 41209;
 inline constexpr TextId kTextDontAskForConnection = 41210;
 inline constexpr TextId kTextFeedServerMissing = 41211;
 inline constexpr TextId kTextLoopbackNetwork = 41220;

@@ -8,14 +8,8 @@ namespace rlx {
 inline constexpr TextId kTextDayLength = 40302;
 inline constexpr TextId kTextSunDoesNotRise = 40303;
 inline constexpr TextId kTextSunDoesNotSet = 40304;
-inline constexpr TextId kTextPolarDay = 40305;
-inline constexpr TextId kTextPolarNight = 40306;
 inline constexpr TextId kTextRiseAndSet = 40307;
-inline constexpr TextId kTextLongitude = 40308;
-inline constexpr TextId kTextLatitude = 40309;
-inline constexpr TextId kTextTimeZone = 40310;
 inline constexpr TextId kTextMapClock = 40311;
-inline constexpr TextId kTextShowCities = 40312;
 inline constexpr TextId kTextMapNow = 40313;
 inline constexpr TextId kTextMapTip = 40314;
 inline constexpr TextId kTextMapImageMissing = 40315;

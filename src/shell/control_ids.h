@@ -21,6 +21,7 @@ enum DialogId : int {
     kDialogPickColour = 332,    // its title comes from the string table
     kDialogPickSkinFile = 333,  // a picture or a set of icons of a skin; its title comes from the string table
     kDialogNewCategory = 336,   // Packing List > New category
+    kDialogChooseFolder = 353,  // its title comes from the string table
 };
 
 enum ControlId : int {
@@ -79,6 +80,8 @@ enum ControlId : int {
     kControlSkinReset = 1212,
     kControlColourText = 1220,
     kControlSkinFileList = 1230,
+    kControlFolderPath = 1390,
+    kControlFolderList = 1391,
 };
 
 }  // namespace rlx

@@ -5,7 +5,6 @@
 /// Weather.
 namespace rlx {
 
-inline constexpr TextId kTextForecast = 40400;
 inline constexpr TextId kTextHigh = 40401;
 inline constexpr TextId kTextLow = 40402;
 inline constexpr TextId kTextPrecipitation = 40403;
@@ -78,7 +77,6 @@ inline constexpr TextId kTextWindFrom = 40473;
 inline constexpr TextId kTextInstantUtc = 40474;
 inline constexpr TextId kTextForecastBroken = 40475;
 inline constexpr TextId kTextWeatherToday = 40476;
-inline constexpr TextId kTextForecastOlder = 40477;
 inline constexpr TextId kTextUpdatingPlace = 40478;
 inline constexpr TextId kTextCelsius = 40479;
 inline constexpr TextId kTextFahrenheit = 40480;

@@ -111,6 +111,7 @@ int main(int count, char** words) {
     QApplication qt(count, words);
     QApplication::setApplicationName("roamlytix");
     QApplication::setApplicationVersion(RLX_VERSION);
+    QGuiApplication::setDesktopFileName("org.roamlytix.Roamlytix");
     QCommandLineParser parser;
     Declare(parser);
     parser.process(qt);

@@ -23,7 +23,7 @@ constexpr int kRowForRate = 34;
 constexpr int kWidest = 640;
 constexpr int kButtonHeight = 32;
 constexpr int kLowButtonHeight = 28;
-constexpr int kButtonWidth = 84;
+constexpr int kLeastButtonWidth = 84;
 constexpr int kLowScreen = 244;
 constexpr int kTallScreen = 420;
 constexpr int kFooterHeight = 44;
@@ -194,13 +194,14 @@ void CCurrencyScreen::Arrange() {
     }
     m_empty->setGeometry(layout.left, layout.gap, layout.width, top - 2 * layout.gap);
     const QRect footer(layout.left, top, layout.width, layout.footerHeight);
-    m_update->setGeometry(footer.right() + 1 - kButtonWidth, footer.top() + (footer.height() - layout.buttonHeight) / 2,
-                          kButtonWidth, layout.buttonHeight);
+    const int button = std::min(std::max(kLeastButtonWidth, m_update->sizeHint().width()), footer.width() / 2);
+    m_update->setGeometry(footer.right() + 1 - button, footer.top() + (footer.height() - layout.buttonHeight) / 2,
+                          button, layout.buttonHeight);
     QFont small = font();
     small.setPixelSize(layout.font);
     m_updateLabel->setFont(small);
     m_origin->setFont(small);
-    ArrangeWords(footer.adjusted(0, 0, -kButtonWidth - kSmallGap, 0), layout.low);
+    ArrangeWords(footer.adjusted(0, 0, -button - kSmallGap, 0), layout.low);
 }
 
 /// The update label above the origin, or left of it.

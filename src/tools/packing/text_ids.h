@@ -28,7 +28,6 @@ inline constexpr TextId kTextItemRefused = 41017;
 inline constexpr TextId kTextNameRefused = 41018;
 inline constexpr TextId kTextUndo = 41019;
 inline constexpr TextId kTextPackedCount = 41020;
-inline constexpr TextId kTextTemplates = 41021;
 inline constexpr TextId kTextEmptyTemplate = 41022;
 inline constexpr TextId kTextNoItemsYet = 41023;
 inline constexpr TextId kTextNoneChecked = 41024;

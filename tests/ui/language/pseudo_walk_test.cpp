@@ -2,7 +2,6 @@
 
 #include <QAbstractButton>
 #include <QDialog>
-#include <QFileDialog>
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
@@ -144,12 +143,10 @@ protected:
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (dialog == nullptr || std::find(m_depth.begin(), m_depth.end(), dialog) != m_depth.end()) return;
         const QString name = where + " > " + dialog->windowTitle();
-        if (qobject_cast<QFileDialog*>(dialog) == nullptr) {
-            m_depth.push_back(dialog);
-            Check(*dialog, name);
-            if (m_met.insert(dialog->windowTitle()).second && depth < 3) PressAll(*dialog, name, depth + 1);
-            m_depth.pop_back();
-        }
+        m_depth.push_back(dialog);
+        Check(*dialog, name);
+        if (m_met.insert(dialog->windowTitle()).second && depth < 3) PressAll(*dialog, name, depth + 1);
+        m_depth.pop_back();
         dialog->done(QDialog::Rejected);
     }
 

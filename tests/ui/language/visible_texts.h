@@ -75,6 +75,7 @@ private:
             !m_isData(widget, outside.trimmed()))
             Say(widget, "not from the language module", outside.trimmed());
         ReadHidden(widget);
+        Reach(widget, window);
     }
 
     /// What is not painted but shown in passing or read aloud.
@@ -105,6 +106,19 @@ private:
         return !index.data(Qt::ToolTipRole).toString().isEmpty();
     }
 
+    /// What a person acts on must be within reach. An area may be scrolled, but only the way that it has a bar for.
+    void Reach(QWidget& widget, QWidget& window) {
+        if (widget.focusPolicy() == Qt::NoFocus) return;
+        for (const QWidget* at = widget.parentWidget(); at != nullptr; at = at->parentWidget()) {
+            const auto* area = qobject_cast<const QAbstractScrollArea*>(at->parentWidget());
+            const bool scrolls = area != nullptr && area->horizontalScrollBarPolicy() != Qt::ScrollBarAlwaysOff;
+            const QRect rect(widget.mapTo(at, QPoint(0, 0)), widget.size());
+            if (!scrolls && (rect.left() < -1 || rect.right() > at->width()))
+                return Say(widget, "reaches out of " + NameOf(*at), {});
+            if (scrolls || at == &window) return;
+        }
+    }
+
     /// A text must lie within its widget, and the widget within those that hold it, up to an area that scrolls.
     void Place(QWidget& widget, QWidget& window, const PaintedText& text) {
         constexpr double kSideRoom = 1.5;
@@ -113,10 +127,7 @@ private:
             if (qobject_cast<QAbstractScrollArea*>(at->parentWidget()) != nullptr) return;
             const QRectF rect = text.rect.translated(widget.mapTo(at, QPoint(0, 0)));
             const QRectF room = QRectF(at->rect()).adjusted(-kSideRoom, -kHeightRoom, kSideRoom, kHeightRoom);
-            if (!room.contains(rect)) {
-                Say(widget, "cut off by " + NameOf(*at), text.text);
-                return;
-            }
+            if (!room.contains(rect)) return Say(widget, "cut off by " + NameOf(*at), text.text);
             if (at == &window) break;
         }
         m_placed.push_back({text.text, NameOf(widget), text.rect.translated(widget.mapTo(&window, QPoint(0, 0)))});
