@@ -7,7 +7,22 @@ namespace rlx {
 
 namespace {
 
-constexpr int kCheckBox = 18;  // pixels
+constexpr int kCheckBox = 18;     // pixels
+constexpr int kSmallestFont = 9;  // pixels
+
+bool Fits(const QFont& font, const QRect& rect, int flags, const QString& text) {
+    const QRect taken = QFontMetrics(font).boundingRect(QRect(QPoint(0, 0), rect.size()), flags, text);
+    const bool wraps = (flags & Qt::TextWordWrap) != 0;
+    return taken.width() <= rect.width() && (!wraps || taken.height() <= rect.height());
+}
+
+/// The font at the size, or the next smaller one, at which the text has room.
+QFont FittedFont(QFont font, const QRect& rect, int flags, const QString& text) {
+    int size = QFontInfo(font).pixelSize();
+    while (size > kSmallestFont && !Fits(font, rect, flags, text))
+        font.setPixelSize(--size);
+    return font;
+}
 
 void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
     const bool enabled = option.state.testFlag(QStyle::State_Enabled);
@@ -58,6 +73,18 @@ CWindowStyle::CWindowStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 int CWindowStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     if (metric == PM_IndicatorWidth || metric == PM_IndicatorHeight) return kCheckBox;
     return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+void CWindowStyle::drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool enabled,
+                                const QString& text, QPalette::ColorRole role) const {
+    const QFont before = painter->font();
+    painter->setFont(FittedFont(before, rect, flags, text));
+    const bool shortens = (flags & Qt::TextWordWrap) == 0 && !Fits(painter->font(), rect, flags, text);
+    const int mnemonic = flags & (Qt::TextShowMnemonic | Qt::TextHideMnemonic);
+    const QString shown =
+        shortens ? painter->fontMetrics().elidedText(text, Qt::ElideRight, rect.width(), mnemonic) : text;
+    QProxyStyle::drawItemText(painter, rect, flags, palette, enabled, shown, role);
+    painter->setFont(before);
 }
 
 void CWindowStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -5,13 +5,15 @@
 namespace rlx {
 
 /// The style of the window: Fusion, with check boxes large enough for a finger and outlined in the colour of the text,
-/// so that they are seen on every skin, and
-/// buttons that stay pressed in the colours of what is chosen.
+/// so that they are seen on every skin, and buttons that stay pressed in the colours of what is chosen. A text that its
+/// label or button has no room for is drawn smaller, down to a size that can still be read, and shortened only then.
 class CWindowStyle : public QProxyStyle {
 public:
     CWindowStyle();
 
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette, bool enabled,
+                      const QString& text, QPalette::ColorRole role) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

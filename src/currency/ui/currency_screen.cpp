@@ -28,7 +28,7 @@ constexpr int kWidthForCard = 620;     // of a lying screen
 constexpr int kWidestWithCard = 1120;  // both columns
 constexpr int kButtonHeight = 32;
 constexpr int kLowButtonHeight = 28;
-constexpr int kButtonWidth = 84;
+constexpr int kLeastButtonWidth = 84;
 constexpr int kLowScreen = 244;
 constexpr int kTallScreen = 420;
 constexpr int kFooterHeight = 44;
@@ -241,13 +241,14 @@ void CCurrencyScreen::Arrange() {
     m_card->setVisible(!layout.card.isEmpty() && !m_currencies.empty());
     m_empty->setGeometry(layout.left, layout.top, layout.width, top - 2 * layout.top);
     const QRect footer(layout.left, top, layout.width, layout.footerHeight);
-    m_update->setGeometry(footer.right() + 1 - kButtonWidth, footer.top() + (footer.height() - layout.buttonHeight) / 2,
-                          kButtonWidth, layout.buttonHeight);
+    const int button = std::min(std::max(kLeastButtonWidth, m_update->sizeHint().width()), footer.width() / 2);
+    m_update->setGeometry(footer.right() + 1 - button, footer.top() + (footer.height() - layout.buttonHeight) / 2,
+                          button, layout.buttonHeight);
     QFont small = font();
     small.setPixelSize(layout.font);
     m_updateLabel->setFont(small);
     m_origin->setFont(small);
-    ArrangeWords(footer.adjusted(0, 0, -kButtonWidth - kSmallGap, 0), layout.low);
+    ArrangeWords(footer.adjusted(0, 0, -button - kSmallGap, 0), layout.low);
 }
 
 /// The update label above the origin, or left of it.

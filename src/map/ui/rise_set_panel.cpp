@@ -45,7 +45,9 @@ void CRiseSetPanel::Show(const QString& city, const CitySun& day, const CitySun&
     QString all = m_title;
     for (const Row& row : m_rows)
         all += QStringLiteral("\n") + row.label + QStringLiteral(" ") + row.today + QStringLiteral(" ") + row.tomorrow;
-    setAccessibleDescription(m_note.isEmpty() ? all : all + QStringLiteral("\n") + m_note);
+    if (!m_note.isEmpty()) all += QStringLiteral("\n") + m_note;
+    setAccessibleDescription(all);
+    setToolTip(all);
     update();
 }
 

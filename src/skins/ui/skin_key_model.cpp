@@ -50,6 +50,7 @@ CSkinKeyModel::CSkinKeyModel(const CSkinDraft& draft, const ITexts& texts, QObje
         if (shown != row.section) {
             shown = row.section;
             section = new QStandardItem(ToQString(texts.Text(TextOf(row.section))));
+            section->setToolTip(section->text());
             section->setSizeHint(kRow);
             section->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
             appendRow({section, new QStandardItem});

@@ -66,8 +66,8 @@ void CToolHeader::Fit() {
     const int titleWidth = m_label->fontMetrics().horizontalAdvance(m_title);
     if (m_back->sizeHint().width() + titleWidth + 2 * kGap > width())
         m_back->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    const int room = width() - m_back->sizeHint().width() - 2 * kGap;
-    m_label->setText(m_label->fontMetrics().elidedText(m_title, Qt::ElideRight, room));
+    m_label->setText(m_title);
+    m_label->setToolTip(m_title);
 }
 
 void CToolHeader::paintEvent(QPaintEvent* /*event*/) {

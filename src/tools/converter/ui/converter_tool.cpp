@@ -75,6 +75,7 @@ void CConverterTool::MakeFields() {
 QPushButton* CConverterTool::MakeButton(const char* name, int text) {
     auto* button = new QPushButton(ToQString(m_resources.Text(text)), this);
     button->setObjectName(name);
+    button->setToolTip(button->text());
     return button;
 }
 

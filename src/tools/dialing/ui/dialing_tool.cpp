@@ -38,9 +38,11 @@ CDialingTool::CDialingTool(const ITexts& texts, const CLook& look)
     setObjectName("dialingPage");
     MakeControls();
     connect(m_selector, &QComboBox::currentIndexChanged, this, &CDialingTool::ShowTable);
+    connect(m_selector, &QComboBox::currentTextChanged, m_selector, &QWidget::setToolTip);
     connect(m_field, &QLineEdit::textChanged, this, &CDialingTool::Find);
     Refresh();
     ShowTable(0);
+    m_selector->setToolTip(m_selector->currentText());
 }
 
 void CDialingTool::MakeControls() {

@@ -27,6 +27,7 @@ constexpr int kLinesDown = 16;
 constexpr int kWidthInCharacters = 24;  // of the card at most
 constexpr int kNarrow = 260;
 constexpr double kTotalScale = 1.4;
+constexpr int kLeastLabel = 40;  // pixels; the rest of a long label is drawn smaller
 constexpr int kFirstPeople = 2;
 
 }  // namespace
@@ -91,6 +92,7 @@ void CTipPage::AddRow(int row, int textId, QWidget* field, QLayout* fields) {
     auto* line = new QHBoxLayout;
     auto* label = new QLabel(ToQString(m_texts.Text(textId)), m_card);
     label->setBuddy(field);
+    label->setMinimumWidth(kLeastLabel);
     if (qobject_cast<QLabel*>(field) == nullptr) field->setAccessibleName(label->text());
     line->addWidget(label);
     if (fields != nullptr) {

@@ -5,6 +5,12 @@
 
 namespace rlx {
 
+namespace {
+
+constexpr int kLeastCaption = 40;  // pixels; the rest of a long caption is drawn smaller
+
+}  // namespace
+
 CTipRateRow::CTipRateRow(const QString& name, const QString& label, const ITexts& texts, QGridLayout& grid, int row,
                          QWidget* parent)
     : QObject(parent),
@@ -20,6 +26,7 @@ CTipRateRow::CTipRateRow(const QString& name, const QString& label, const ITexts
     m_included->setObjectName(name + "Included");
     auto* caption = new QLabel(label, parent);
     caption->setBuddy(m_rate);
+    caption->setMinimumWidth(kLeastCaption);
     m_rate->setAccessibleName(label);
     m_added->setAccessibleName(label + " " + m_added->text());
     m_amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

@@ -1,0 +1,253 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QMenu>
+#include <QPushButton>
+#include <QTimer>
+#include <QToolButton>
+#include <set>
+
+#include "app/application.h"
+#include "shell/command_ids.h"
+#include "shell/control_ids.h"
+#include "shell/language_start.h"
+#include "support/numbered_names.h"
+#include "support/paths.h"
+#include "support/temp_folder.h"
+#include "ui/language/visible_texts.h"
+#include "uikit/window_style.h"
+
+namespace rlx {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Commands that ask the feed server, or end or change the window itself.
+constexpr int kNotWalked[] = {kCommandUpdateRates, kCommandUpdateWeather, kCommandFetchNews, kCommandFullScreen,
+                              kCommandExit};
+
+/// Data that is shown as it stands, by the widgets that show it.
+constexpr const char* kShowData[] = {
+    "clocksScreen",
+    "mapScreen",
+    "mapClock",
+    "riseSetPanel",  // names of cities
+    "place0",
+    "place1",
+    "place2",
+    "place3",
+    "heading",  // names of weather places
+    "currency0",
+    "currency1",
+    "rate",  // codes and names of currencies
+    "fromUnit",
+    "toUnit",  // names of units
+    "internationalCodes",
+    "usAreaCodes",
+    "canadaAreaCodes",  // names of countries, cities and states
+    "sizeTable",        // names of size systems
+    "control_1021",     // cities to choose from
+    "control_1000",
+    "control_1012",
+    "control_1200",  // names of languages, modules and skins
+    "control_1010",
+    "control_1201",  // paths of folders
+    "control_1220",  // the number of a colour
+    "control_1051",  // units to edit
+    "control_1080",  // the credits, a file in English
+};
+
+bool IsData(const QWidget& widget, const QString& text) {
+    static const QRegularExpression kPerUnit("^/\\S+$");  // behind "Value" in the list of units
+    if (kPerUnit.match(text).hasMatch()) return true;
+    const bool viewport = widget.objectName() == "qt_scrollarea_viewport";
+    const QString name = viewport ? widget.parentWidget()->objectName() : widget.objectName();
+    return std::find(std::begin(kShowData), std::end(kShowData), name) != std::end(kShowData);
+}
+
+/// The real application in a language in which every text stands in brackets and is half as long again.
+class PseudoWalk : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        QApplication::style()->setParent(qApp);  // else nobody deletes it: it was set before there was an application
+        QApplication::setStyle(new CWindowStyle);
+    }
+
+    PseudoWalk() : m_texts(&IsData) {
+        for (const auto& entry : fs::directory_iterator(test::kDataDir)) {
+            const std::string name = entry.path().filename().string();
+            // Without the address of a feed server nothing is asked of one.
+            if (name != "langs.dat" && name != "adrs.cfg" && name != "make")
+                fs::create_symlink(entry.path(), m_home / name);
+        }
+        m_home.Put("langs.dat", "0,English,none@1,Pseudo,RoamlyPseudo.dll@>");
+        fs::create_directories(m_home / "LangsRes");
+        fs::copy(fs::path(test::kTestModuleDir) / "RoamlyPseudo.dll", m_home / "LangsRes");
+        WindowOptions options;
+        options.home = m_home.Path().string();
+        options.store = (m_home / "device.db").string();
+        options.now = DateTime{{2026, 7, 10}, 23, 30, 7, 0};
+        options.bias = 0;
+        options.quiet = true;
+        ChooseLanguage(options.store);
+        m_application.emplace(options);
+        CPosixFileSystem files;
+        m_resources = LoadLanguageModule(files, m_home / "LangsRes/RoamlyPseudo.dll");
+        Window().setMinimumSize(0, 0);
+    }
+
+    static void ChooseLanguage(const std::string& file) {
+        const CSystemClock clock;
+        const auto opened = OpenDeviceStore(file, clock);
+        CRegistryStore settings(opened.store->Registry());
+        ASSERT_TRUE(WriteLanguageSetting(settings, 1));
+    }
+
+    CMainWindow& Window() { return m_application->Window(); }
+
+    void Resize(const QSize& size) {
+        Window().resize(size);
+        Window().show();
+        QApplication::processEvents();
+    }
+
+    void Check(QWidget& widget, const QString& where) {
+        QApplication::processEvents();
+        for (const QString& fault : m_texts.FaultsOf(widget)) {
+            if (!m_told.insert(fault).second) continue;
+            ADD_FAILURE() << where.toStdString() << ": " << fault.toStdString();
+        }
+    }
+
+    /// Does what may open dialogs, one after another, and looks at each.
+    void Press(const QString& where, const std::function<void()>& act, int depth) {
+        QTimer timer;
+        timer.setInterval(0);
+        timer.setSingleShot(true);
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            Meet(where, depth);
+            timer.start();
+        });
+        timer.start();
+        act();
+        timer.stop();
+        QApplication::processEvents();
+    }
+
+    void Meet(const QString& where, int depth) {
+        if (auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+            CheckMenu(*popup, where);
+            popup->close();
+        }
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr || std::find(m_depth.begin(), m_depth.end(), dialog) != m_depth.end()) return;
+        const QString name = where + " > " + dialog->windowTitle();
+        m_depth.push_back(dialog);
+        Check(*dialog, name);
+        if (m_met.insert(dialog->windowTitle()).second && depth < 3) PressAll(*dialog, name, depth + 1);
+        m_depth.pop_back();
+        dialog->done(QDialog::Rejected);
+    }
+
+    void PressAll(QWidget& root, const QString& where, int depth) {
+        for (auto* button : root.findChildren<QAbstractButton*>()) {
+            const bool ends = button->objectName() == QString("control_%1").arg(kControlOk) ||
+                              button->objectName() == QString("control_%1").arg(kControlCancel);
+            const bool leaves = button->objectName() == "backToTools";
+            if (ends || leaves || !button->isVisible() || !button->isEnabled()) continue;
+            const auto* tool = qobject_cast<QToolButton*>(button);
+            const auto* push = qobject_cast<QPushButton*>(button);
+            QMenu* menu = tool != nullptr ? tool->menu() : push != nullptr ? push->menu() : nullptr;
+            if (menu != nullptr) {
+                PressAll(*menu, where, depth);
+            } else {
+                Press(
+                    where + " > " + button->text(), [button] { button->click(); }, depth);
+            }
+        }
+    }
+
+    void PressAll(QMenu& menu, const QString& where, int depth) {
+        CheckMenu(menu, where);
+        for (QAction* action : menu.actions()) {
+            const bool skipped = std::any_of(std::begin(kNotWalked), std::end(kNotWalked), [&](int command) {
+                return action->objectName() == QString("command_%1").arg(command);
+            });
+            if (action->menu() != nullptr) {
+                PressAll(*action->menu(), where + " > " + action->text(), depth);
+            } else if (!skipped && !action->isSeparator() && action->isEnabled()) {
+                Press(
+                    where + " > " + action->text(), [action] { action->trigger(); }, depth);
+            }
+        }
+    }
+
+    /// A menu of a widget that shows data lists data.
+    void CheckMenu(const QMenu& menu, const QString& where) {
+        const auto* owner = menu.parentWidget();
+        if (owner != nullptr && IsData(*owner, {})) return;
+        for (const QAction* action : menu.actions()) {
+            const QString text = action->text().trimmed();
+            const bool translated = text.startsWith('[') && text.endsWith(']');
+            EXPECT_TRUE(translated || action->isSeparator()) << where.toStdString() << ": " << text.toStdString();
+        }
+    }
+
+    test::CTempFolder m_home;
+    test::CVisibleTexts m_texts;
+    std::set<QString> m_told;
+    std::set<QString> m_met;
+    std::vector<QDialog*> m_depth;
+    std::optional<CApplication> m_application;
+    std::optional<CResources> m_resources;
+};
+
+TEST_F(PseudoWalk, EveryScreenSpeaksTheLanguageAndHasRoomForIt) {
+    for (const QSize size : {QSize(240, 320), QSize(320, 240), QSize(480, 640)}) {
+        Resize(size);
+        for (std::size_t i = 0; i < Window().Screens().size(); ++i) {
+            Window().ShowScreen(static_cast<int>(i));
+            CScreen& screen = *Window().Screens()[i];
+            for (int view = 0; view < screen.ViewCount(); ++view) {
+                screen.ShowView(view);
+                Check(Window(), QString("%1 %2 %3x%4")
+                                    .arg(screen.IconName(), screen.ViewName(view))
+                                    .arg(size.width())
+                                    .arg(size.height()));
+            }
+        }
+    }
+    EXPECT_GT(m_texts.Seen(), 500);
+}
+
+TEST_F(PseudoWalk, EveryDialogSpeaksTheLanguageAndHasRoomForIt) {
+    Resize({240, 320});
+    PressAll(Window().Menu(), "menu", 0);
+    for (std::size_t i = 0; i < Window().Screens().size(); ++i) {
+        Window().ShowScreen(static_cast<int>(i));
+        CScreen& screen = *Window().Screens()[i];
+        for (int view = 0; view < screen.ViewCount(); ++view) {
+            screen.ShowView(view);
+            PressAll(screen, screen.IconName() + " " + screen.ViewName(view), 0);
+        }
+    }
+    EXPECT_GT(m_met.size(), 10U);
+}
+
+/// Those that nothing above leads to, too, with what the template itself says.
+TEST_F(PseudoWalk, EveryTemplateHasRoomOnTheSmallestScreen) {
+    Resize({240, 320});
+    int dialogs = 0;
+    for (const auto& [name, number] : test::NumberedNames("control_ids.h", "kDialog")) {
+        CTemplateDialog dialog(m_resources->Dialog(number).value_or(DialogTemplate{}), &Window());
+        dialog.show();
+        EXPECT_TRUE(dialog.windowTitle().startsWith('[')) << name;
+        Check(dialog, QString::fromStdString(name));
+        ++dialogs;
+    }
+    EXPECT_GT(dialogs, 15);
+}
+
+}  // namespace
+}  // namespace rlx
