@@ -3,6 +3,7 @@
 #include <QPlainTextEdit>
 
 #include "app/text_ids.h"
+#include "app/window_placement.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "map/ui/sun_details.h"
@@ -45,6 +46,7 @@ CApplication::CApplication(const WindowOptions& options)
     if (!StartLanguage()) return;
     OpenCities();
     m_window = std::make_unique<CMainWindow>(m_clock, m_resources);
+    if (!m_options.quiet) new CWindowPlacement(*m_window, m_store->Registry());
     m_windowBoxes.SetOwner(m_window.get());
     m_skins = std::make_unique<CSkinCommands>(SkinPorts{m_files, m_codec, m_resources, m_boxes}, m_folder->Root(),
                                               *m_settings, m_look, *m_window);

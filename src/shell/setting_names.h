@@ -43,6 +43,7 @@ inline constexpr std::u16string_view kNewsDate = u"newsdate";      ///< text: da
 inline constexpr std::u16string_view kNewsSource = u"newsfrom";    ///< text: the host that the page came from
 inline constexpr std::u16string_view kTodayCities = u"todaynbcs";  ///< number of clocks on the home screen
 inline constexpr std::u16string_view kTodayRates = u"todayscur";   ///< 1: rates on the home screen
+inline constexpr std::u16string_view kWindow = u"window";          ///< bytes: place and size of the window
 inline constexpr std::u16string_view kToolPage = u"toolpage";      ///< page of Tools shown last, from 1; 0: the list
 
 /// Text of `keys::kRoamlytix`: the `GuidText` of each connection that needs no confirmation, each followed by ";".
