@@ -231,7 +231,7 @@ void CApplication::RestoreScreen() {
 /// Every screen paints anew when the look changes; dialogs and the frame take the palette.
 void CApplication::ApplyLook() {
     QApplication::setPalette(m_look.Palette());
-    m_window->SetColours({m_look.Bar(), m_look.PanelText(), m_look.Accent()});
+    m_window->SetColours({m_look.Bar(), m_look.PanelText()});
 }
 
 std::optional<CityIndex> CApplication::ChooseCity(QWidget* parent, const QString& title, CityIndex current) {

@@ -89,7 +89,7 @@ CScreen* CMainWindow::Current() const {
 
 void CMainWindow::SetColours(const FrameColours& colours) {
     m_titleBar->SetColours(colours.bar, colours.text);
-    m_row->SetColours(colours.bar, colours.text, colours.chosen);
+    m_row->SetColours(colours.bar, colours.text);
 }
 
 void CMainWindow::SetFreshNews(bool fresh) {

@@ -17,9 +17,8 @@ namespace rlx {
 
 /// The colours of the frame around the screens.
 struct FrameColours {
-    QColor bar;     ///< ground of title bar and screen row
-    QColor text;    ///< on the bar
-    QColor chosen;  ///< marks the screen shown
+    QColor bar;   ///< ground of title bar and screen row
+    QColor text;  ///< on the bar
 };
 
 /// The one window: title bar, the screen shown, the row of screens. It knows screens only as `CScreen`. User-interface

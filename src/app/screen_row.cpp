@@ -38,6 +38,10 @@ void CScreenRow::Add(const QString& iconName, const QString& title) {
 }
 
 void CScreenRow::SetCurrent(int index) {
+    // Tab goes to the one that is chosen, arrow keys go on from there.
+    const QAbstractButton* stop = m_buttons.button(index) != nullptr ? m_buttons.button(index) : m_buttons.button(0);
+    for (QAbstractButton* button : m_buttons.buttons())
+        button->setFocusPolicy(button == stop ? Qt::TabFocus : Qt::NoFocus);
     if (QAbstractButton* button = m_buttons.button(index)) {
         button->setChecked(true);
     } else if (QAbstractButton* last = m_buttons.checkedButton()) {
@@ -48,18 +52,16 @@ void CScreenRow::SetCurrent(int index) {
     }
 }
 
-void CScreenRow::SetColours(const QColor& ground, const QColor& text, const QColor& chosen) {
+void CScreenRow::SetColours(const QColor& ground, const QColor& text) {
     m_ground = ground;
     m_text = text;
-    m_chosen = chosen;
     PaintIcons();
-    const QString chosenGround =
-        QStringLiteral("rgba(%1,%2,%3,48)").arg(chosen.red()).arg(chosen.green()).arg(chosen.blue());
+    const QString chosen = QStringLiteral("rgba(%1,%2,%3,52)").arg(text.red()).arg(text.green()).arg(text.blue());
     setStyleSheet(
         QStringLiteral("QToolButton { border: none; border-radius: 10px; color: %1; font-size: 11px; padding: 2px; }"
                        "QToolButton:checked { background: %2; }"
-                       "QToolButton:focus { border: 2px solid %3; }")
-            .arg(text.name(), chosenGround, chosen.name()));
+                       "QToolButton:focus { border: 2px solid %1; }")
+            .arg(text.name(), chosen));
     update();
 }
 

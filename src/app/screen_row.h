@@ -20,7 +20,7 @@ public:
     void Add(const QString& iconName, const QString& title);
 
     void SetCurrent(int index);
-    void SetColours(const QColor& ground, const QColor& text, const QColor& chosen);
+    void SetColours(const QColor& ground, const QColor& text);
 
     /// Puts the buttons beside or below each other and shows labels when the window has room for them.
     void SetForm(Qt::Orientation orientation, bool labels);
@@ -39,7 +39,6 @@ private:
     std::vector<QString> m_iconNames;
     QColor m_ground;
     QColor m_text;
-    QColor m_chosen;
 };
 
 }  // namespace rlx

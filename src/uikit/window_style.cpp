@@ -1,5 +1,6 @@
 #include "uikit/window_style.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -46,18 +47,31 @@ void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
     painter.restore();
 }
 
+bool IsReachedByKey(const QStyleOption& option) {
+    return option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_KeyboardFocusChange);
+}
+
 /// A button that stays pressed: in the colours of what is chosen, with a frame inside its edge.
 void DrawPressedPanel(QPainter& painter, const QStyleOption& option) {
     const QColor text = option.palette.color(QPalette::HighlightedText);
-    const bool focus = option.state.testFlag(QStyle::State_HasFocus);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(text, 1));
     painter.setBrush(option.palette.color(QPalette::Highlight));
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    painter.setPen(QPen(text, focus ? 2 : 1));
+    painter.setPen(QPen(text, IsReachedByKey(option) ? 3 : 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(option.rect).adjusted(2.5, 2.5, -2.5, -2.5), 2, 2);
+    painter.restore();
+}
+
+/// Where the keys go, in the colour of the text: seen on every skin.
+void DrawFocusRing(QPainter& painter, const QStyleOption& option, QPalette::ColorRole role) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(option.palette.color(role), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(1, 1, -1, -1), 3, 3);
     painter.restore();
 }
 
@@ -93,24 +107,40 @@ void CWindowStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         DrawCheckBox(*painter, *option);
     } else if (element == PE_PanelButtonCommand && option->state.testFlag(State_On)) {
         DrawPressedPanel(*painter, *option);
+    } else if (element == PE_FrameFocusRect && qobject_cast<const QAbstractItemView*>(widget) == nullptr) {
+        DrawFocusRing(*painter, *option, QPalette::WindowText);
     } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if (element == PE_FrameLineEdit && option->state.testFlag(State_HasFocus))
+            DrawFocusRing(*painter, *option, QPalette::Text);
     }
 }
 
 void CWindowStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-    if (element != CE_PushButton || button == nullptr || !option->state.testFlag(State_On)) {
-        QProxyStyle::drawControl(element, option, painter, widget);
+    const bool isPush = element == CE_PushButton && button != nullptr;
+    if (isPush && option->state.testFlag(State_On)) {
+        QStyleOptionButton pressed = *button;
+        pressed.palette.setColor(QPalette::ButtonText, button->palette.color(QPalette::HighlightedText));
+        painter->save();
+        painter->setFont(Bold(painter->font()));
+        QProxyStyle::drawControl(element, &pressed, painter, widget);
+        painter->restore();
         return;
     }
-    QStyleOptionButton pressed = *button;
-    pressed.palette.setColor(QPalette::ButtonText, button->palette.color(QPalette::HighlightedText));
-    painter->save();
-    painter->setFont(Bold(painter->font()));
-    QProxyStyle::drawControl(element, &pressed, painter, widget);
-    painter->restore();
+    QProxyStyle::drawControl(element, option, painter, widget);
+    const bool isView = element == CE_ShapedFrame && qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
+    if (isPush && IsReachedByKey(*option)) DrawFocusRing(*painter, *option, QPalette::ButtonText);
+    if (isView && option->state.testFlag(State_HasFocus)) DrawFocusRing(*painter, *option, QPalette::Text);
+}
+
+void CWindowStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                      const QWidget* widget) const {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (control == CC_ComboBox && IsReachedByKey(*option)) DrawFocusRing(*painter, *option, QPalette::ButtonText);
+    if (control == CC_SpinBox && option->state.testFlag(State_HasFocus))
+        DrawFocusRing(*painter, *option, QPalette::Text);
 }
 
 }  // namespace rlx

@@ -4,9 +4,10 @@
 
 namespace rlx {
 
-/// The style of the window: Fusion, with check boxes large enough for a finger and outlined in the colour of the text,
-/// so that they are seen on every skin, and buttons that stay pressed in the colours of what is chosen. A text that its
-/// label or button has no room for is drawn smaller, down to a size that can still be read, and shortened only then.
+/// The style of the window: Fusion, made to be read on every skin. Check boxes are large enough for a finger and, like
+/// the ring around what the keys go to, in the colour of the text; buttons that stay pressed have the colours of what
+/// is chosen. A text that its label or button has no room for is drawn smaller, down to a size that can still be read,
+/// and shortened only then.
 class CWindowStyle : public QProxyStyle {
 public:
     CWindowStyle();
@@ -16,6 +17,8 @@ public:
                       const QString& text, QPalette::ColorRole role) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
 };

@@ -93,7 +93,7 @@ void CMapClock::PaintFlat(QPainter& painter, const QRectF& area) const {
 void CMapClock::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(hasFocus() ? QPen(m_look.Accent(), 2) : QPen(Qt::NoPen));
+    painter.setPen(hasFocus() ? QPen(m_look.PanelText(), 2) : QPen(Qt::NoPen));
     painter.setBrush(m_look.Card());
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
     QRectF area = QRectF(rect()).adjusted(kPadding, kPadding / 2, -kPadding, -kPadding / 2);

@@ -170,9 +170,12 @@ void CMapScreen::paintEvent(QPaintEvent* /*event*/) {
     if (std::exchange(m_redraw, false)) DrawNight();
     m_view.Paint(painter, accessibleDescription());
     if (!m_showFocus) return;
-    painter.setPen(QPen(m_look.Accent(), 2));
+    // Two lines: one of them is seen on day, night and ice.
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(m_layout.picture).adjusted(1, 1, -1, -1));
+    for (const auto& [colour, width] : {std::pair(m_look.PanelText(), 5), std::pair(m_look.Panel(), 2)}) {
+        painter.setPen(QPen(colour, width));
+        painter.drawRect(QRectF(m_layout.picture).adjusted(2.5, 2.5, -2.5, -2.5));
+    }
 }
 
 void CMapScreen::resizeEvent(QResizeEvent* /*event*/) {

@@ -107,7 +107,11 @@ void CTimeScrubber::paintEvent(QPaintEvent* /*event*/) {
     const double y = height() * 0.3;
     painter.setPen(QPen(m_look.PanelText(), 1.5, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(PlaceOf(0), y), QPointF(PlaceOf(1), y));
-    painter.setPen(QPen(hasFocus() ? m_look.PanelText() : m_look.AccentText(), 2));
+    if (hasFocus()) {
+        painter.setPen(QPen(m_look.PanelText(), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
+    }
+    painter.setPen(QPen(m_look.AccentText(), 2));
     painter.setBrush(m_look.Accent());
     painter.drawEllipse(QPointF(PlaceOf(Fraction()), y), kHandle, kHandle);
 }

@@ -28,7 +28,7 @@ void CPicturePanel::paintEvent(QPaintEvent* /*event*/) {
     const QImage smooth = m_picture.toImage().scaled((fitted * devicePixelRatioF()).toSize(), Qt::IgnoreAspectRatio,
                                                      Qt::SmoothTransformation);
     painter.drawImage(area, smooth);
-    painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
+    painter.setPen(palette().color(hasFocus() ? QPalette::WindowText : QPalette::Mid));
     painter.drawRect(area.adjusted(0, 0, -1, -1));
 }
 

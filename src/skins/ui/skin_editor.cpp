@@ -1,6 +1,7 @@
 #include "skins/ui/skin_editor.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPushButton>
 
 #include "base/text.h"
@@ -82,7 +83,8 @@ void CSkinEditor::SetUpKeys() {
     m_keys->header()->setStretchLastSection(false);
     m_keys->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_keys->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    connect(m_keys, &QTreeView::activated, this, &CSkinEditor::Change);
+    m_keys->installEventFilter(this);
+    connect(m_keys, &QTreeView::doubleClicked, this, &CSkinEditor::Change);
     connect(m_keys->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
         UpdateButtons();
         UpdatePanel();
@@ -117,6 +119,18 @@ void CSkinEditor::resizeEvent(QResizeEvent* event) {
     m_panel->setMaximumHeight(beside ? QWIDGETSIZE_MAX : kPanelHeight);
     m_panel->setMaximumWidth(width() >= kSideBySide || !beside ? QWIDGETSIZE_MAX : width() / 4);
     m_keys->setColumnHidden(1, width() < kSideBySide);
+}
+
+/// Enter on a key changes its value; it must not go on to the dialog, where it would press Save.
+bool CSkinEditor::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_keys && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            Change();
+            return true;
+        }
+    }
+    return CTemplateDialog::eventFilter(watched, event);
 }
 
 void CSkinEditor::showEvent(QShowEvent* event) {

@@ -42,7 +42,7 @@ void CToolButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing);
     QColor card = m_look.Card();
     if (underMouse() || isDown()) card.setAlpha(isDown() ? 160 : 240);
-    painter.setPen(hasFocus() ? QPen(m_look.Accent(), 2) : QPen(Qt::NoPen));
+    painter.setPen(hasFocus() ? QPen(m_look.PanelText(), 2) : QPen(Qt::NoPen));
     painter.setBrush(card);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kRadius, kRadius);
 

@@ -188,6 +188,21 @@ TEST_F(SkinDialogs, CancelAndResetPutTheOldLookBack) {
     EXPECT_EQ(folder.Get("default.skn"), text);
 }
 
+TEST_F(SkinDialogs, EnterOnAKeyChangesItAndSavesNothing) {
+    auto editor = OpenEditor();
+    auto* keys = editor->Control<QTreeView>(kControlSkinKeys);
+    keys->setCurrentIndex(static_cast<CSkinKeyModel*>(keys->model())->IndexOf(SkinKey::kGeneralPC));
+    bool came = false;
+    QTimer::singleShot(0, editor.get(), [&came] {
+        auto* picker = qobject_cast<CColourPicker*>(QApplication::activeModalWidget());
+        came = picker != nullptr;
+        if (came) picker->accept();
+    });
+    QTest::keyClick(keys, Qt::Key_Return);
+    EXPECT_TRUE(came);
+    EXPECT_TRUE(editor->isVisible());
+}
+
 TEST_F(SkinDialogs, PicturesAndIconsComeFromTheSkinsFolders) {
     auto editor = OpenEditor();
     const auto pick = [](const char* name) {

@@ -86,6 +86,19 @@ TEST_F(TipPage, SplitsToTheCent) {
     EXPECT_EQ(Text("share"), "This total cannot be split.");
 }
 
+TEST_F(TipPage, KeysReachTheFieldsFromTopToBottom) {
+    m_page.activateWindow();
+    m_page.Entered();
+    QStringList order;
+    for (int i = 0; i < 6; ++i) {
+        QApplication::processEvents();
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
+        order << QApplication::focusWidget()->objectName();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(order, QStringList({"bill", "firstRate", "firstAdded", "secondRate", "secondAdded", "people"}));
+}
+
 TEST_F(TipPage, SelectsAllWhenEntered) {
     m_page.activateWindow();
     m_page.Entered();

@@ -41,7 +41,6 @@ CTipPage::CTipPage(const ITexts& texts, IMessageBoxes& boxes, const CLook& look)
       m_grid(new QGridLayout(m_card)),
       m_bill(new CNumberField(m_card)),
       m_total(new CFittedLabel(m_card)),
-      m_people(new QSpinBox(m_card)),
       m_share(new CFittedLabel(m_card)) {
     setObjectName("tipPage");
     MakeCard();
@@ -117,6 +116,7 @@ void CTipPage::MakeRate(TipRate rate, const QString& name, int labelText, int ro
 }
 
 void CTipPage::MakeSplit(int row) {
+    m_people = new QSpinBox(m_card);  // made last, as the keys reach it last
     m_people->setObjectName("people");
     m_people->setRange(1, kMaxPeople);
     m_people->setValue(kFirstPeople);

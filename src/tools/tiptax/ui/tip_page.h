@@ -53,7 +53,7 @@ private:
     CNumberField* m_bill;
     CTipRateRow* m_rates[2] = {nullptr, nullptr};
     CFittedLabel* m_total;
-    QSpinBox* m_people;
+    QSpinBox* m_people = nullptr;
     QToolButton* m_fewer = nullptr;
     QToolButton* m_more = nullptr;
     CFittedLabel* m_share;
