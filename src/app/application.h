@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "app/city_commands.h"
 #include "app/feed_wiring.h"
 #include "app/main_window.h"
 #include "app/silent_message_boxes.h"
@@ -85,6 +86,7 @@ private:
     std::optional<CRegistryStore> m_settings;
     std::optional<CApplicationFolder> m_folder;
     std::optional<CCityDatabase> m_cities;
+    std::optional<CCityCommands> m_cityCommands;
     std::optional<CWeatherStore> m_weather;
     CCommandTable m_commands;
     std::optional<CFeedWiring> m_feeds;

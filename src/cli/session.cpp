@@ -5,6 +5,7 @@
 #include "base/number.h"
 #include "base/text.h"
 #include "cli/text_ids.h"
+#include "places/city_list_messages.h"
 #include "places/city_search.h"
 #include "platform/posix/frozen_clock.h"
 #include "platform/posix/posix_file_system.h"
@@ -37,6 +38,7 @@ struct CSession::Parts {
     std::optional<CRegistryStore> settings;
     std::optional<ClockSettings> clockChoices;
     std::optional<CCityDatabase> cities;
+    std::optional<CCityListStore> cityLists;
     bool citiesBuilt = false;
     std::optional<CCityTimes> times;
 };
@@ -90,7 +92,11 @@ IObjectStore& CSession::ObjectStore() {
 }
 
 CRegistryStore& CSession::Settings() {
-    if (!m_parts->settings) m_parts->settings.emplace(Registry());
+    if (!m_parts->settings) {
+        m_parts->settings.emplace(Registry());
+        // Choices of cities mean nothing before a change of the list that was cut short is ended.
+        if (IsCityChangeUnfinished(*m_parts->settings)) CitiesAsTheyAre();
+    }
     return *m_parts->settings;
 }
 
@@ -117,8 +123,15 @@ CCityDatabase& CSession::CitiesAsTheyAre() {
     if (!m_parts->cities) {
         const auto file = Folder().Path(u"\\cities.lst").value_or(Folder().Root() / "cities.lst");
         m_parts->cities.emplace(ObjectStore(), m_parts->files, m_boxes, m_resources, file);
+        m_parts->cityLists.emplace(ObjectStore(), Registry(), m_parts->files, *m_parts->cities, file);
+        ReportCityList(m_parts->cityLists->Finish(), m_boxes, m_resources);
     }
     return *m_parts->cities;
+}
+
+CCityListStore& CSession::CityLists() {
+    CitiesAsTheyAre();
+    return *m_parts->cityLists;
 }
 
 CCityTimes& CSession::Times() {

@@ -8,6 +8,7 @@
 #include "cli/console_message_boxes.h"
 #include "cli/options.h"
 #include "places/city_database.h"
+#include "places/city_list_store.h"
 #include "places/city_times.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
@@ -47,6 +48,9 @@ public:
 
     /// The same without building them.
     CCityDatabase& CitiesAsTheyAre();
+
+    /// The list of the cities, for commands that change it.
+    CCityListStore& CityLists();
     CCityTimes& Times();
     const ClockSettings& ClockChoices();
 

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "base/iso_day.h"
 #include "base/number.h"
 #include "base/read_token.h"
 #include "base/text.h"
-#include "feeds/iso_day.h"
 
 namespace rlx {
 

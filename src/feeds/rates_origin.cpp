@@ -1,6 +1,6 @@
 #include "feeds/rates_origin.h"
 
-#include "feeds/iso_day.h"
+#include "base/iso_day.h"
 #include "shell/registry_store.h"
 #include "shell/setting_names.h"
 

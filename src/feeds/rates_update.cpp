@@ -1,9 +1,9 @@
 #include "feeds/rates_update.h"
 
+#include "base/iso_day.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "feeds/http_url.h"
-#include "feeds/iso_day.h"
 #include "feeds/rates_reply.h"
 #include "feeds/text_ids.h"
 #include "shell/setting_names.h"

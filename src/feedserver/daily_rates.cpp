@@ -2,8 +2,8 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "base/iso_day.h"
 #include "base/text.h"
-#include "feeds/iso_day.h"
 #include "feedserver/rates_table.h"
 
 namespace rlx {

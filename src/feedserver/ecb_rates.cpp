@@ -2,9 +2,9 @@
 #include <cstring>
 #include <pugixml.hpp>
 
+#include "base/iso_day.h"
 #include "base/number.h"
 #include "base/text.h"
-#include "feeds/iso_day.h"
 #include "feedserver/rates_table.h"
 
 namespace rlx {

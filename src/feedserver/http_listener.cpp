@@ -14,8 +14,8 @@
 #include <new>
 #include <utility>
 
+#include "base/iso_day.h"
 #include "base/text.h"
-#include "feeds/iso_day.h"
 #include "feedserver/session_id.h"
 
 namespace rlx {

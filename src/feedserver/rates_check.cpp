@@ -1,7 +1,7 @@
 #include "feedserver/rates_check.h"
 
+#include "base/iso_day.h"
 #include "base/text.h"
-#include "feeds/iso_day.h"
 
 namespace rlx {
 

@@ -3,8 +3,8 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
+#include "base/iso_day.h"
 #include "base/text.h"
-#include "feeds/iso_day.h"
 #include "feeds/rates_list.h"
 #include "feedserver/rates_check.h"
 #include "feedserver/source_reader.h"

@@ -6,9 +6,9 @@
 #include <system_error>
 #include <utility>
 
+#include "base/iso_day.h"
 #include "base/number.h"
 #include "base/text.h"
-#include "feeds/iso_day.h"
 #include "feedserver/open_meteo.h"
 #include "weather/forecast_reader.h"
 #include "weather/forecast_writer.h"

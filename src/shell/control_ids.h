@@ -21,6 +21,8 @@ enum DialogId : int {
     kDialogPickColour = 332,    // its title comes from the string table
     kDialogPickSkinFile = 333,  // a picture or a set of icons of a skin; its title comes from the string table
     kDialogNewCategory = 336,   // Packing List > New category
+    kDialogEditCities = 343,    // Places > Edit cities
+    kDialogCity = 344,          // one city of the list; its title comes from the string table
 };
 
 enum ControlId : int {
@@ -79,6 +81,22 @@ enum ControlId : int {
     kControlSkinReset = 1212,
     kControlColourText = 1220,
     kControlSkinFileList = 1230,
+    kControlCityAdd = 1320,
+    kControlCityChange = 1321,
+    kControlCityDelete = 1322,
+    kControlCityName = 1323,
+    kControlCityCountry = 1324,
+    kControlCityLongitude = 1325,
+    kControlCityLatitude = 1326,
+    kControlCityZone = 1327,
+    kControlCityFill = 1328,
+    kControlCityGmt = 1329,
+    kControlCityDstHours = 1330,
+    kControlCityStartDay = 1331,
+    kControlCityStartHour = 1332,
+    kControlCityEndDay = 1333,
+    kControlCityEndHour = 1334,
+    kControlCityDaylight = 1335,
 };
 
 }  // namespace rlx

@@ -1,5 +1,5 @@
+#include "base/iso_day.h"
 #include "base/text.h"
-#include "feeds/iso_day.h"
 #include "feedserver/news_item.h"
 #include "feedserver/rates_check.h"
 #include "feedserver/rates_table.h"

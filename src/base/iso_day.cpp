@@ -1,4 +1,4 @@
-#include "feeds/iso_day.h"
+#include "base/iso_day.h"
 
 #include "base/number.h"
 
