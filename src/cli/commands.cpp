@@ -25,6 +25,7 @@ std::span<const Command> Commands() {
         Command{"units", "units of the converter: list, add, delete", DeclareUnits},
         Command{"dial", "dialing and area codes", DeclareDial},
         Command{"sizes", "clothing sizes of other countries", DeclareSizes},
+        Command{"doctor", "looks for faults in files, settings and the store", DeclareDoctor},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;

@@ -35,6 +35,7 @@ struct CSession::Parts {
     std::optional<CApplicationFolder> folder;
     std::unique_ptr<CDeviceStore> store;
     StoreOutcome outcome = StoreOutcome::kOpened;
+    std::optional<std::u16string> storeTrouble;
     std::optional<CRegistryStore> settings;
     std::optional<ClockSettings> clockChoices;
     std::optional<CCityDatabase> cities;
@@ -78,7 +79,10 @@ CDeviceStore& CSession::Store() {
         OpenedStore opened = OpenDeviceStore(file, m_parts->clock);
         m_parts->store = std::move(opened.store);
         m_parts->outcome = opened.outcome;
-        if (const auto box = StoreMessage(opened.outcome, file, opened.movedAside, m_resources)) m_boxes.Show(*box);
+        if (const auto box = StoreMessage(opened.outcome, file, opened.movedAside, m_resources)) {
+            m_parts->storeTrouble = box->text;
+            m_boxes.Show(*box);
+        }
     }
     return *m_parts->store;
 }
@@ -109,6 +113,15 @@ bool CSession::KeepsChanges() {
     Store();
     const StoreOutcome outcome = m_parts->outcome;
     return outcome == StoreOutcome::kOpened || outcome == StoreOutcome::kCreated || outcome == StoreOutcome::kReplaced;
+}
+
+std::optional<std::u16string> CSession::StoreTrouble() {
+    Store();
+    return m_parts->storeTrouble;
+}
+
+bool CSession::IsStoreSound() {
+    return Store().IsSound();
 }
 
 CCityDatabase& CSession::Cities() {

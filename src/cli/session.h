@@ -43,6 +43,12 @@ public:
     /// opened.
     bool KeepsChanges();
 
+    /// What was wrong with the store when it was opened; nothing when all was well.
+    std::optional<std::u16string> StoreTrouble();
+
+    /// Reads the whole store.
+    bool IsStoreSound();
+
     /// The cities, built from "cities.lst" when the store has none yet.
     CCityDatabase& Cities();
 
