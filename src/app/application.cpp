@@ -16,6 +16,7 @@
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
 #include "shell/text_ids.h"
+#include "today/ui/today_dialog.h"
 #include "tools/clothing/ui/clothing_tool.h"
 #include "tools/converter/ui/converter_tool.h"
 #include "tools/dialing/ui/dialing_tool.h"
@@ -41,6 +42,8 @@ CApplication::CApplication(const WindowOptions& options)
       m_look(m_files, m_codec) {
     OpenStore();
     OpenFolder();
+    if (!StartLanguage()) return;
+    OpenCities();
     m_window = std::make_unique<CMainWindow>(m_clock, m_resources);
     m_windowBoxes.SetOwner(m_window.get());
     m_cityCommands->SetWindow(*m_window);
@@ -73,6 +76,21 @@ void CApplication::OpenFolder() {
                       BoxIcon::kExclamation, BoxButtons::kOk});
     }
     m_folder.emplace(m_files, folder.value_or(sources.executableFolder));
+}
+
+/// Without a display there is nobody to ask.
+bool CApplication::MayAsk() const {
+    const QString platform = QGuiApplication::platformName();
+    return !m_options.quiet && platform != "offscreen" && platform != "minimal";
+}
+
+bool CApplication::StartLanguage() {
+    const LanguagePorts ports{m_files, *m_folder, m_resources, m_boxes};
+    m_languages.emplace(ports, *m_settings, MayAsk());
+    return m_languages->Start(m_resources);
+}
+
+void CApplication::OpenCities() {
     const auto cityFile = m_folder->Path(u"\\cities.lst").value_or(m_folder->Root() / "cities.lst");
     m_cities.emplace(m_store->Objects(), m_files, m_boxes, m_resources, cityFile);
     m_cities->EnsureCreated();
@@ -126,7 +144,7 @@ void CApplication::OpenSunDetails(const CitySunDetails& details) {
 
 void CApplication::MakeTools() {
     m_toolsScreen = new CToolsScreen(*m_settings, m_resources, m_look);
-    m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), m_resources, m_boxes, m_look));
+    m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), *m_settings, m_resources, m_boxes, m_look));
     m_toolsScreen->AddPage(new CDialingTool(m_resources, m_look));
     m_toolsScreen->AddPage(new CClothingTool(m_resources, m_look));
     m_toolsScreen->AddPage(new CPackingPage(m_files, m_folder->Root(), m_resources, m_boxes, m_look));
@@ -172,6 +190,10 @@ void CApplication::MakeCommands() {
     m_commands.Add(kCommandOwnerName, this, [this] { m_feeds->AskOwnerName(); });
     m_commands.Add(kCommandChooseSkin, this, [this] { m_skins->Choose(); });
     m_commands.Add(kCommandEditSkin, this, [this] { m_skins->Edit(); });
+    m_commands.Add(kCommandTodayOptions, this,
+                   [this] { CTodayDialog(*m_settings, m_resources, m_window.get()).exec(); });
+    m_commands.Add(kCommandLanguage, this, [this] { m_languages->Choose(m_window.get()); });
+    m_commands.Add(kCommandInstallLanguages, this, [this] { m_languages->Install(m_window.get()); });
     m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });
     m_commands.Add(kCommandAbout, this, [this] { ShowAbout(); });
     m_commands.Add(kCommandExit, this, [this] { m_window->close(); })->setShortcut(QKeySequence::Quit);
@@ -237,6 +259,7 @@ void CApplication::ShowAbout() {
 
 void CApplication::Show() {
     m_window->AskFirst([this] {
+        if (!MayAsk()) return;
         const QString title = ToQString(m_resources.Text(kTextChooseHomeCity));
         const auto choose = [&](CityIndex proposed) { return ChooseCity(m_window.get(), title, proposed); };
         if (const auto home = m_cityCommands->AskHomeCity(choose)) m_clocksScreen->StoreCity(0, *home);

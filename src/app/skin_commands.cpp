@@ -1,7 +1,5 @@
 #include "app/skin_commands.h"
 
-#include <QFileDialog>
-
 #include "base/text.h"
 #include "cli/text_ids.h"
 #include "map/text_ids.h"
@@ -12,6 +10,7 @@
 #include "skins/text_ids.h"
 #include "skins/ui/skin_chooser.h"
 #include "skins/ui/skin_editor.h"
+#include "uikit/folder_chooser.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {
@@ -75,9 +74,8 @@ void CSkinCommands::Choose() {
         if (IsUtf8(folder.native())) WriteSetting(names::kSkinsFolder, FromUtf8(folder.native()));
     };
     actions.browse = [this](QWidget* parent, const std::filesystem::path& from) -> std::filesystem::path {
-        return QFileDialog::getExistingDirectory(parent, ToQString(m_ports.resources.Text(kTextSkinsFolderTitle)),
-                                                 QString::fromStdString(from.string()))
-            .toStdString();
+        const QString title = ToQString(m_ports.resources.Text(kTextSkinsFolderTitle));
+        return ChooseFolder(m_ports.files, m_ports.resources, m_ports.boxes, title, from, parent).value_or("");
     };
     const auto other = m_settings.ReadString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kSkinsFolder);
     CSkinChooser chooser(m_ports, {m_applicationFolder, ToUtf8(other), Setting()}, std::move(actions), &m_window);

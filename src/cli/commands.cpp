@@ -26,6 +26,7 @@ std::span<const Command> Commands() {
         Command{"dial", "dialing and area codes", DeclareDial},
         Command{"sizes", "clothing sizes of other countries", DeclareSizes},
         Command{"doctor", "looks for faults in files, settings and the store", DeclareDoctor},
+        Command{"today", "a summary for a status bar, and what it shows", DeclareToday},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;

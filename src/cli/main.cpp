@@ -8,23 +8,11 @@
 #include "cli/command.h"
 #include "cli/commands.h"
 #include "cli/standard_streams.h"
+#include "cli/words.h"
 
 namespace rlx::cli {
 
 namespace {
-
-/// The words of the command line. "--text=" becomes two words, so that a value may be empty.
-std::vector<std::string> WordsOf(int count, char** words) {
-    std::vector<std::string> list;
-    for (int i = 1; i < count; ++i) {
-        std::string word = words[i];
-        const bool emptyValue = word.starts_with("--") && word.size() > 3 && word.find('=') == word.size() - 1;
-        if (emptyValue) word.pop_back();
-        list.push_back(std::move(word));
-        if (emptyValue) list.emplace_back();
-    }
-    return list;
-}
 
 /// The subcommand that the words name, so that only its options need to be declared: the first word that is neither a
 /// global option nor its value.
@@ -112,7 +100,7 @@ std::vector<std::string> UnknownWords(const CLI::App& app) {
 
 int WrongUsage(const CLI::App& app, const CLI::ParseError& error, bool json) {
     const std::vector<std::string> unknown = UnknownWords(app);
-    std::string what = unknown.empty() ? error.what() : "\"" + unknown.front() + "\" is not understood";
+    std::string what = WithoutMarks(unknown.empty() ? error.what() : "\"" + unknown.front() + "\" is not understood");
     for (char& c : what) {
         if (c == '\n') c = ' ';
     }
@@ -140,6 +128,7 @@ int Run(int count, char** arguments) {
         if (named == nullptr || named == &command)
             command.declare(*sub, [&action](Action given) { action = std::move(given); });
     }
+    TakeMarksOff(app);
     try {
         std::reverse(words.begin(), words.end());  // the parser takes them from the back
         app.parse(std::move(words));

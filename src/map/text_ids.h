@@ -10,7 +10,6 @@ inline constexpr TextId kTextSunDoesNotRise = 40303;
 inline constexpr TextId kTextSunDoesNotSet = 40304;
 inline constexpr TextId kTextRiseAndSet = 40307;
 inline constexpr TextId kTextMapClock = 40311;
-inline constexpr TextId kTextShowCities = 40312;
 inline constexpr TextId kTextMapNow = 40313;
 inline constexpr TextId kTextMapTip = 40314;
 inline constexpr TextId kTextMapImageMissing = 40315;

@@ -23,6 +23,7 @@ enum DialogId : int {
     kDialogNewCategory = 336,   // Packing List > New category
     kDialogEditCities = 343,    // Places > Edit cities
     kDialogCity = 344,          // one city of the list; its title comes from the string table
+    kDialogChooseFolder = 353,  // its title comes from the string table
 };
 
 enum ControlId : int {
@@ -97,6 +98,8 @@ enum ControlId : int {
     kControlCityEndDay = 1333,
     kControlCityEndHour = 1334,
     kControlCityDaylight = 1335,
+    kControlFolderPath = 1390,
+    kControlFolderList = 1391,
 };
 
 }  // namespace rlx

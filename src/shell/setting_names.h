@@ -13,6 +13,7 @@ inline constexpr std::u16string_view kWorldClock = u"Roamlytix\\wrldclk";
 inline constexpr std::u16string_view kMap = u"Roamlytix\\map";
 inline constexpr std::u16string_view kWeather = u"Roamlytix\\weather";
 inline constexpr std::u16string_view kCurrencies = u"Roamlytix\\currencies";
+inline constexpr std::u16string_view kConverter = u"Roamlytix\\converter";
 inline constexpr std::u16string_view kAlarms = u"Roamlytix\\alarms";
 inline constexpr std::u16string_view kOwner = u"ControlPanel\\Owner";  ///< the only one below the current user
 }  // namespace keys
@@ -71,6 +72,10 @@ inline constexpr std::u16string_view kIconFolder = u"icondir";  ///< text: folde
 inline constexpr std::u16string_view kPairs[3] = {u"curp", u"curp2", u"curp3"};
 inline constexpr std::u16string_view kRatesDate = u"ratesdate";    ///< text: day of the last update, "2026-09-29"
 inline constexpr std::u16string_view kRatesSource = u"ratesfrom";  ///< text: the host that it came from
+
+/// Value of `keys::kConverter`; text: a line for each pair of units used lately, newest first: category, from and to
+/// with a tab between them.
+inline constexpr std::u16string_view kRecentPairs = u"recent";
 
 /// Values of `keys::kAlarms`, one of each for every reminder; all texts.
 inline constexpr std::u16string_view kAlarmTimes[5] = {u"clock", u"clock1", u"clock2", u"clock3", u"clock4"};

@@ -14,7 +14,6 @@ inline constexpr TextId kTextInvalidMark = 41306;
 inline constexpr TextId kTextSkinTooLong = 41307;
 inline constexpr TextId kTextSkinComplete = 41309;
 inline constexpr TextId kTextSkinPathRefused = 41310;
-inline constexpr TextId kTextNoSuchFolder = 41311;
 inline constexpr TextId kTextSkinFileNotOpened = 41320;
 inline constexpr TextId kTextSkinSectionMissing = 41321;
 inline constexpr TextId kTextSkinKeyMissing = 41322;

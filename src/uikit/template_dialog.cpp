@@ -23,7 +23,7 @@ namespace rlx {
 
 namespace {
 
-/// Below this width or height a dialog takes the whole screen of its window.
+/// Below this width or height a dialog takes the whole of its window, or of the screen where there is none.
 constexpr int kSmallScreen = 400;
 
 constexpr int kSelectorHeight = 12;  // template units
@@ -138,10 +138,16 @@ void CTemplateDialog::LayOut(const DialogTemplate& dialog) {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(8, 8, 8, 8);
     column->setSpacing(6);
-    for (const Row& row : RowsOf(dialog)) {
+    const std::vector<Row> rows = RowsOf(dialog);
+    const auto stretching = [](const Row& row) {
+        return std::any_of(row.begin(), row.end(), [](const auto* control) { return TakesRoom(*control); });
+    };
+    const bool filled = std::any_of(rows.begin(), rows.end(), stretching);
+    for (const Row& row : rows) {
+        // Room that no list takes lies above the buttons, not around the labels.
+        if (!filled && &row == &rows.back()) column->addStretch(1);
         auto* line = new QHBoxLayout;
         line->setSpacing(6);
-        bool stretches = false;
         QLabel* label = nullptr;
         for (const DialogControl* control : row) {
             QWidget* widget = MakeControl(*control);
@@ -151,11 +157,10 @@ void CTemplateDialog::LayOut(const DialogTemplate& dialog) {
             if (label != nullptr && label->buddy() == nullptr && control->kind != ControlKind::kStatic)
                 label->setBuddy(widget);
             label = control->kind == ControlKind::kStatic ? qobject_cast<QLabel*>(widget) : label;
-            stretches = stretches || TakesRoom(*control);
             if (control->id > 0) m_controls[control->id] = widget;
             line->addWidget(widget, control->width);
         }
-        column->addLayout(line, stretches ? 1 : 0);
+        column->addLayout(line, stretching(row) ? 1 : 0);
     }
 }
 
@@ -168,9 +173,8 @@ void CTemplateDialog::ConnectButtons() {
 void CTemplateDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     const QWidget* window = parentWidget() != nullptr ? parentWidget()->window() : nullptr;
-    if (window != nullptr && (window->width() < kSmallScreen || window->height() < kSmallScreen)) {
-        setGeometry(window->geometry());
-    }
+    const QRect room = window != nullptr ? window->geometry() : screen()->availableGeometry();
+    if (room.width() < kSmallScreen || room.height() < kSmallScreen) setGeometry(room);
 }
 
 }  // namespace rlx

@@ -31,6 +31,26 @@ void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
     painter.restore();
 }
 
+/// A button that stays pressed: in the colours of what is chosen, with a frame inside its edge.
+void DrawPressedPanel(QPainter& painter, const QStyleOption& option) {
+    const QColor text = option.palette.color(QPalette::HighlightedText);
+    const bool focus = option.state.testFlag(QStyle::State_HasFocus);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(text, 1));
+    painter.setBrush(option.palette.color(QPalette::Highlight));
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    painter.setPen(QPen(text, focus ? 2 : 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(2.5, 2.5, -2.5, -2.5), 2, 2);
+    painter.restore();
+}
+
+QFont Bold(QFont font) {
+    font.setBold(true);
+    return font;
+}
+
 }  // namespace
 
 CWindowStyle::CWindowStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -44,9 +64,26 @@ void CWindowStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
                                  const QWidget* widget) const {
     if (element == PE_IndicatorCheckBox || element == PE_IndicatorItemViewItemCheck) {
         DrawCheckBox(*painter, *option);
+    } else if (element == PE_PanelButtonCommand && option->state.testFlag(State_On)) {
+        DrawPressedPanel(*painter, *option);
     } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
+}
+
+void CWindowStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element != CE_PushButton || button == nullptr || !option->state.testFlag(State_On)) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
+    }
+    QStyleOptionButton pressed = *button;
+    pressed.palette.setColor(QPalette::ButtonText, button->palette.color(QPalette::HighlightedText));
+    painter->save();
+    painter->setFont(Bold(painter->font()));
+    QProxyStyle::drawControl(element, &pressed, painter, widget);
+    painter->restore();
 }
 
 }  // namespace rlx

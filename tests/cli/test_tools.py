@@ -25,6 +25,8 @@ class Converter(RlxTest):
             ("12abc", "Feet", "Inch", (), 144, "144"),
             ("abc", "Feet", "Inch", (), 0, "0"),
             ("-2.5e3", "m - Meter", "km - Kilometer", (), -2.5, "-2.5"),
+            ("-.5", "m - Meter", "mm - Millimeter", (), -500, "-500"),
+            ("-.5e3", "m - Meter", "km - Kilometer", ("--category", "1"), -0.5, "-0.5"),
             ("2", "yard", "acre", ("--category", "0"), 2 * 0.83612736 / 4046.8564224, None),
             ("1e-300", "nm - Nanometer", "m - Meter", (), 1e-309, "1e-309"),
         ]

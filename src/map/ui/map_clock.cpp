@@ -11,7 +11,9 @@ namespace rlx {
 namespace {
 
 constexpr double kPadding = 4;
-constexpr int kFaceFrom = 160;  // pixels of width
+constexpr int kFaceFrom = 230;  // pixels of width
+constexpr int kLeastDateFont = 11;
+constexpr double kDateShrinks = 0.6;  // before it loses its year
 
 void PaintHand(QPainter& painter, const QPointF& centre, double turn, double length, double width) {
     const double angle = turn * 2 * M_PI;
@@ -32,9 +34,18 @@ void CMapClock::Show(const ClockReading& reading, const QString& time, const QSt
     m_reading = reading;
     m_time = time;
     m_date = date;
+    // The pieces of the text stand far apart.
+    m_longDate = ToQString(reading.longDateText).simplified();
     setText(ToQString(reading.name));
-    setAccessibleDescription(text() + QStringLiteral(", ") + m_time + QStringLiteral(", ") + m_date);
+    setAccessibleDescription(text() + QStringLiteral(", ") + m_time + QStringLiteral(", ") + m_longDate);
     update();
+}
+
+/// With its year where that can be read.
+QString CMapClock::DateFor(double width, double height, const QFont& font) const {
+    QFont sized = font;
+    sized.setPixelSize(std::max(kLeastDateFont, static_cast<int>(height * kDateShrinks)));
+    return QFontMetricsF(sized).horizontalAdvance(m_longDate) <= width ? m_longDate : m_date;
 }
 
 void CMapClock::PaintFace(QPainter& painter, const QRectF& area) const {
@@ -59,7 +70,7 @@ void CMapClock::PaintTall(QPainter& painter, const QRectF& area) const {
     };
     paint(SkinKey::kMapCNC, text(), 0.66, true);
     paint(SkinKey::kMapDCC, m_time, 0.9, true);
-    paint(SkinKey::kMapDC, m_date, 0.6, false);
+    paint(SkinKey::kMapDC, DateFor(area.width(), line * 0.6, font()), 0.6, false);
 }
 
 /// Time on the left; city and date on the right, in a narrow clock with the date beside the time.
@@ -75,8 +86,8 @@ void CMapClock::PaintFlat(QPainter& painter, const QRectF& area) const {
     painter.setPen(m_look.Colour(SkinKey::kMapCNC));
     PaintFitted(painter, narrow ? below : beside, text(), line * 0.78, Qt::AlignLeft, true);
     painter.setPen(m_look.Colour(SkinKey::kMapDC));
-    PaintFitted(painter, narrow ? beside : beside.translated(0, line), m_date, line * 0.72,
-                narrow ? Qt::AlignRight : Qt::AlignLeft);
+    PaintFitted(painter, narrow ? beside : beside.translated(0, line), DateFor(beside.width(), line * 0.72, font()),
+                line * 0.72, narrow ? Qt::AlignRight : Qt::AlignLeft);
 }
 
 void CMapClock::paintEvent(QPaintEvent* /*event*/) {

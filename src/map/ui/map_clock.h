@@ -15,6 +15,7 @@ class CMapClock : public QAbstractButton {
 public:
     explicit CMapClock(const CLook& look, QWidget* parent = nullptr);
 
+    /// `date` stands where the long form of the date finds no room.
     void Show(const ClockReading& reading, const QString& time, const QString& date);
 
 protected:
@@ -24,11 +25,13 @@ private:
     void PaintTall(QPainter& painter, const QRectF& area) const;
     void PaintFlat(QPainter& painter, const QRectF& area) const;
     void PaintFace(QPainter& painter, const QRectF& area) const;
+    QString DateFor(double width, double height, const QFont& font) const;
 
     const CLook& m_look;
     ClockReading m_reading;
     QString m_time;
     QString m_date;
+    QString m_longDate;
 };
 
 }  // namespace rlx

@@ -9,6 +9,7 @@ constexpr int kGap = 4;
 constexpr int kScrubber = 20;
 constexpr int kControls = 34;
 constexpr int kPanelLeastHeight = 70;
+constexpr int kPanelGoodHeight = 130;
 constexpr int kPanelMostHeight = 190;
 constexpr int kPanelMostWidth = 560;
 constexpr int kSidePanelLeast = 140;
@@ -17,6 +18,10 @@ constexpr int kMapLeast = 120;
 constexpr int kColumnLeast = 92;
 constexpr int kColumnMost = 200;
 constexpr int kButtonMost = 76;
+constexpr int kFootLeast = 88;
+constexpr int kFootMost = 140;
+constexpr int kFootFrom = 560;  // a width for clock and panel beside each other
+constexpr int kFootButtons = 28;
 
 int ControlsOf(int height) {
     return std::clamp(height / 10, kControls, 64);
@@ -66,6 +71,26 @@ MapLayout Lying(const QRect& area, int width, int controls) {
     return layout;
 }
 
+/// For large windows: clock and buttons below the map, the panel to the right of them.
+MapLayout Footed(const QRect& area, int width, int foot) {
+    MapLayout layout;
+    const int height = HeightFor(width) + kScrubber + foot + 2 * kGap;
+    const QPoint corner(area.left() + (area.width() - width) / 2, area.top() + (area.height() - height) / 2);
+    layout.picture = {corner, QSize(width, HeightFor(width))};
+    layout.scrubber = {corner.x(), layout.picture.bottom() + 1, width, kScrubber};
+    const int wide = std::min(std::max(width, kFootFrom), area.width() - 2 * kGap);
+    const int left = area.left() + (area.width() - wide) / 2;
+    const int top = layout.scrubber.bottom() + 1 + kGap;
+    const int panel = std::min(wide * 58 / 100, kPanelMostWidth);
+    const int clock = wide - panel - kGap;
+    layout.panel = {left + clock + kGap, top, panel, foot};
+    const int button = (clock - kGap) / 2;
+    layout.clock = {left, top, clock, foot - kFootButtons - kGap};
+    layout.span = {left, top + foot - kFootButtons, button, kFootButtons};
+    layout.now = layout.span.translated(button + kGap, 0);
+    return layout;
+}
+
 /// For small lying windows: clock and buttons to the right of the map, the panel below both.
 MapLayout Compact(const QRect& area, int width) {
     MapLayout layout;
@@ -92,11 +117,16 @@ MapLayout LayOutMap(const QRect& area) {
     const int fixed = kScrubber + controls + kGap;
     const int side = std::clamp(area.width() * 24 / 100, kSidePanelLeast, kSidePanelMost);
     const int column = std::clamp(area.width() * 30 / 100, kColumnLeast, kColumnMost);
-    const int below = WidthFor(area.width(), area.height() - fixed - kPanelLeastHeight - kGap);
+    const int panel = std::clamp(area.height() / 5, kPanelLeastHeight, kPanelGoodHeight);
+    const int foot = std::clamp(area.height() / 6, kFootLeast, kFootMost);
+    const int below = WidthFor(area.width(), area.height() - fixed - panel - kGap);
     const int beside = WidthFor(area.width() - side - 2 * kGap, area.height() - fixed);
     const int compact =
         WidthFor(area.width() - column - 2 * kGap, area.height() - kScrubber - kPanelLeastHeight - 2 * kGap);
-    if (below >= std::max(beside, compact)) return Upright(area, below, controls);
+    const int footed =
+        area.width() < kFootFrom + 2 * kGap ? 0 : WidthFor(area.width(), area.height() - kScrubber - foot - 2 * kGap);
+    if (below >= std::max({beside, compact, footed})) return Upright(area, below, controls);
+    if (footed >= std::max(beside, compact)) return Footed(area, footed, foot);
     return beside >= compact ? Lying(area, beside, controls) : Compact(area, compact);
 }
 

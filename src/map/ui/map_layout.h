@@ -11,7 +11,7 @@ struct MapLayout {
     QRect clock;     ///< below the scrubber or beside the map
     QRect span;      ///< button for day or year
     QRect now;       ///< button that returns to now
-    QRect panel;     ///< sunrise and sunset: below all that or to the right, where the map comes out larger
+    QRect panel;     ///< sunrise and sunset: below all that, beside the clock or to the right of the map
 };
 
 /// Space to the left and to the right of the map proper within the picture.

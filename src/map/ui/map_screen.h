@@ -1,17 +1,14 @@
 #pragma once
 
-#include <QToolButton>
 #include <functional>
 #include <optional>
 
-#include "map/map_cities.h"
 #include "map/minute_timer.h"
-#include "map/ui/city_marks.h"
 #include "map/ui/map_clock.h"
-#include "map/ui/map_layer.h"
 #include "map/ui/map_layout.h"
+#include "map/ui/map_view.h"
 #include "map/ui/rise_set_panel.h"
-#include "map/ui/time_scrubber.h"
+#include "map/ui/time_controls.h"
 #include "places/city_times.h"
 #include "platform/message_boxes.h"
 #include "shell/clock_text.h"
@@ -60,22 +57,16 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void MakeControls();
     void TakeSecond();
     void ShowTexts();
     void RedrawNight();
     void MoveTo(const DateTime& time);
     void ReturnToNow();
-    void ToggleSpan();
     void ChooseClock();
     void Select(CityIndex city);
     void SelectNeighbour(int by);
-    std::optional<CityIndex> CityAt(const QPointF& point);
-    void PrepareMarks();
-    void PaintMarks(QPainter& painter) const;
-    void PaintSun(QPainter& painter) const;
-    void PaintMissingImage(QPainter& painter) const;
-    QPointF PlaceOf(const EarthPoint& point) const;
+    void MarkCities();
+    void DrawNight();
     std::vector<CityIndex> ClockCities() const;
 
     CCityDatabase& m_cities;
@@ -97,14 +88,9 @@ private:
     bool m_redraw = true;      ///< the next paint draws the shadow anew
 
     MapLayout m_layout;
-    CMapLayer m_layer;
-    CMapCities m_places;
-    std::vector<CityMark> m_marks;
-    EarthPoint m_sun;
-    CTimeScrubber* m_scrubber;
+    CMapView m_view;
+    CTimeControls* m_time;
     CMapClock* m_clockButton;
-    QToolButton* m_spanButton;
-    QToolButton* m_nowButton;
     CRiseSetPanel* m_panel;
     CMinuteTimer m_timer;  ///< last: joined before anything else goes
 };

@@ -6,6 +6,7 @@
 
 #include "map/text_ids.h"
 #include "map/ui/fitted_text.h"
+#include "places/city_time.h"
 #include "shell/text_ids.h"
 #include "uikit/qt_text.h"
 
@@ -18,7 +19,7 @@ constexpr double kTitleShare = 1.15;  // of a line's height
 constexpr double kLabelShare = 0.36;  // of the width
 constexpr double kColumnGap = 4;
 constexpr int kLeastFont = 9;
-constexpr double kMostLine = 30;
+constexpr double kMostLine = 36;
 
 }  // namespace
 
@@ -28,14 +29,19 @@ CRiseSetPanel::CRiseSetPanel(const CLook& look, const ITexts& texts, QWidget* pa
     setAccessibleName(ToQString(texts.Text(kTextRiseAndSet)));
 }
 
-void CRiseSetPanel::Show(const QString& city, const Day& day, const Day& next) {
+void CRiseSetPanel::Show(const QString& city, const CitySun& day, const CitySun& next, const Form& form) {
     const auto text = [this](int id) { return ToQString(m_texts.Text(id)); };
+    const auto name = [&](const CitySun& sun, TextId word) {
+        return form.named ? text(word) : ToQString(CityDateText(sun.date, false, m_texts));
+    };
+    const SunTexts first = SunTextsOf(day.sun, form.clock, m_texts);
+    const SunTexts second = SunTextsOf(next.sun, form.clock, m_texts);
     m_title = text(kTextRiseAndSet) + QStringLiteral("  ") + city;
-    m_rows = {{{}, day.name, next.name},
-              {text(kTextSunrise), ToQString(day.texts.sunrise), ToQString(next.texts.sunrise)},
-              {text(kTextSunset), ToQString(day.texts.sunset), ToQString(next.texts.sunset)},
-              {text(kTextDayLength), ToQString(day.texts.dayLength), ToQString(next.texts.dayLength), true}};
-    m_note = ToQString(day.texts.note);
+    m_rows = {{{}, name(day, kTextMapToday), name(next, kTextMapTomorrow)},
+              {text(kTextSunrise), ToQString(first.sunrise), ToQString(second.sunrise)},
+              {text(kTextSunset), ToQString(first.sunset), ToQString(second.sunset)},
+              {text(kTextDayLength), ToQString(first.dayLength), ToQString(second.dayLength), true}};
+    m_note = ToQString(first.note);
     QString all = m_title;
     for (const Row& row : m_rows)
         all += QStringLiteral("\n") + row.label + QStringLiteral(" ") + row.today + QStringLiteral(" ") + row.tomorrow;

@@ -15,13 +15,13 @@ class CRiseSetPanel : public QWidget {
 public:
     CRiseSetPanel(const CLook& look, const ITexts& texts, QWidget* parent = nullptr);
 
-    /// One day as it is shown.
-    struct Day {
-        QString name;
-        SunTexts texts;
+    struct Form {
+        bool named = true;  ///< the days are called today and tomorrow; else by their dates
+        ClockForm clock = ClockForm::kTwentyFour;
     };
 
-    void Show(const QString& city, const Day& day, const Day& next);
+    /// A day of the city and the one after it.
+    void Show(const QString& city, const CitySun& day, const CitySun& next, const Form& form);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -9,6 +9,19 @@
 #include "uikit/template_dialog.h"
 
 namespace rlx {
+namespace {
+
+constexpr int kWidth = 340;
+
+void MakeBold(const CTemplateDialog& dialog, int control) {
+    auto* label = dialog.Control<QLabel>(control);
+    if (label == nullptr) return;
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+}
+
+}  // namespace
 
 void ShowSunDetails(const CitySunDetails& details, const Date& date, ClockForm form, const CResources& resources,
                     QWidget* parent) {
@@ -28,6 +41,9 @@ void ShowSunDetails(const CitySunDetails& details, const Date& date, ClockForm f
     set(kControlSunset, sun.sunset);
     set(kControlDayLength, sun.dayLength);
     set(kControlSunNote, sun.note);
+    MakeBold(dialog, kControlSunCity);
+    MakeBold(dialog, kControlSunNote);
+    dialog.resize(kWidth, dialog.heightForWidth(kWidth));
     dialog.exec();
 }
 

@@ -2,17 +2,13 @@
 
 #include <QHeaderView>
 #include <QPushButton>
-#include <algorithm>
 
 #include "base/text.h"
-#include "platform/bitmap.h"
 #include "shell/control_ids.h"
-#include "shell/device_path.h"
 #include "shell/fill_text.h"
 #include "shell/text_ids.h"
-#include "skins/icon_set.h"
 #include "skins/text_ids.h"
-#include "skins/ui/colour_picker.h"
+#include "skins/ui/skin_key_changer.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {
@@ -22,10 +18,6 @@ namespace {
 constexpr int kSideBySide = 400;  // from this width on the panel stands beside the keys
 constexpr int kPanelHeight = 84;  // below the keys
 constexpr int kSettleMs = 40;     // between two views of a colour that is being dragged
-
-std::uint32_t ColourOf(const QColor& colour) {
-    return static_cast<std::uint32_t>(colour.red() + colour.green() * 256 + colour.blue() * 65536);
-}
 
 int TextOf(SkinWriteStatus status) {
     switch (status) {
@@ -135,73 +127,10 @@ void CSkinEditor::showEvent(QShowEvent* event) {
 void CSkinEditor::Change() {
     const auto key = Selected();
     if (!key || !m_keys->currentIndex().flags().testFlag(Qt::ItemIsEnabled)) return;
-    const SkinKeyKind kind = RowOf(*key).kind;
-    if (IsColour(kind)) {
-        ChangeColour(*key);
-    } else if (kind == SkinKeyKind::kIconSet) {
-        ChangeIcons(*key);
-    } else {
-        ChangePicture(*key);
-    }
-}
-
-void CSkinEditor::ChangeColour(SkinKey key) {
-    const CSkinEdit before = m_draft.Edit();
-    const QColor old = QColor::fromRgb(PixelOfColour(m_draft.Skin().Colour(key)));
-    const auto follow = [this, key](const QColor& colour) {
-        m_draft.Edit().SetColour(key, ColourOf(colour));
-        m_soon.start();
-    };
-    CColourPicker picker(m_ports.resources, NameOfKey(key, m_ports.resources), old, follow, this);
-    const bool taken = picker.exec() == QDialog::Accepted && picker.Colour().rgb() != old.rgb();
-    if (taken) {
-        m_draft.Edit().SetColour(key, ColourOf(picker.Colour()));
-    } else {
-        m_draft.Edit() = before;
-    }
+    CSkinKeyChanger(
+        m_ports, m_draft, [this] { m_soon.start(); }, this)
+        .Change(*key);
     ShowDraft();
-}
-
-void CSkinEditor::ChangePicture(SkinKey key) {
-    const auto pictures = m_draft.PicturesFor(key);
-    if (pictures.names.empty()) return Say(kTextSkinNoPictures, pictures.path);
-    const QString current = ToQString(m_draft.Skin().Name(key)).section('\\', -1);
-    std::vector<SkinFileChoice> choices;
-    int at = -1;
-    for (const std::string& name : pictures.names) {
-        choices.push_back({QString::fromStdString(name), pictures.folder / name});
-        if (choices.back().name.compare(current, Qt::CaseInsensitive) == 0) at = static_cast<int>(choices.size()) - 1;
-    }
-    const auto picked = Pick(NameOfKey(key, m_ports.resources), choices, at);
-    if (!picked) return;
-    m_draft.Edit().SetPicture(key,
-                              pictures.path + u"\\" + FromQString(choices[static_cast<std::size_t>(*picked)].name));
-    ShowDraft();
-}
-
-void CSkinEditor::ChangeIcons(SkinKey key) {
-    const auto sets = m_draft.IconSets();
-    const auto& folder = m_draft.Original().Folder();
-    constexpr const char* kShown = "partly-cloudy-day.png";
-    std::vector<SkinFileChoice> choices = {{ToQString(m_ports.resources.Text(kTextDefaultIconSet)), {}}};
-    if (const auto own = ResolveBelow(m_ports.files, folder, kDefaultIconSetFolder)) choices[0].picture = *own / kShown;
-    int at = 0;
-    for (const auto& set : sets) {
-        const auto path = ResolveBelow(m_ports.files, folder, set).value_or("") / kShown;
-        choices.push_back({ToQString(set).section('\\', -1), path});
-        if (m_draft.Skin().Name(key) == set) at = static_cast<int>(choices.size()) - 1;
-    }
-    const auto picked = Pick(NameOfKey(key, m_ports.resources), choices, at);
-    if (!picked) return;
-    const auto index = static_cast<std::size_t>(*picked);
-    m_draft.Edit().SetIconSet(index == 0 ? std::u16string(kDefaultIconSetValue) : sets[index - 1]);
-    ShowDraft();
-}
-
-std::optional<int> CSkinEditor::Pick(const QString& title, const std::vector<SkinFileChoice>& choices, int current) {
-    CSkinFilePicker picker(m_ports, title, choices, current, this);
-    if (picker.exec() != QDialog::Accepted || picker.Picked() < 0) return std::nullopt;
-    return picker.Picked();
 }
 
 void CSkinEditor::Reset() {

@@ -7,7 +7,6 @@
 
 #include "skins/skin_draft.h"
 #include "skins/ui/picture_panel.h"
-#include "skins/ui/skin_file_picker.h"
 #include "skins/ui/skin_key_model.h"
 #include "skins/ui/skin_ports.h"
 #include "uikit/template_dialog.h"
@@ -44,14 +43,10 @@ private:
     void AddPanel();
     std::optional<SkinKey> Selected() const;
     void Change();
-    void ChangeColour(SkinKey key);
-    void ChangePicture(SkinKey key);
-    void ChangeIcons(SkinKey key);
     void Reset();
     void ShowDraft();
     void UpdateButtons();
     void UpdatePanel();
-    std::optional<int> Pick(const QString& title, const std::vector<SkinFileChoice>& choices, int current);
     void Say(int text, const std::u16string& filling = {});
 
     SkinPorts m_ports;

@@ -24,7 +24,8 @@ std::u16string NameAt(const std::vector<Unit>& units, std::size_t index) {
 
 }  // namespace
 
-CConverterPage::CConverterPage(const ITexts& texts, IMessageBoxes& boxes) : m_texts(texts), m_boxes(boxes) {}
+CConverterPage::CConverterPage(const ITexts& texts, IMessageBoxes& boxes, CRegistryStore& settings)
+    : m_texts(texts), m_boxes(boxes), m_settings(settings), m_recent(LoadRecentPairs(settings)) {}
 
 void CConverterPage::SetTables(UnitTables tables) {
     const std::u16string from = NameAt(Units(), m_from);
@@ -72,9 +73,19 @@ void CConverterPage::Reset() {
 void CConverterPage::Remember() {
     RecentPair pair{m_category, NameAt(Units(), m_from), NameAt(Units(), m_to)};
     if (pair.from.empty() || pair.to.empty()) return;
-    std::erase(m_recent, pair);
-    m_recent.insert(m_recent.begin(), std::move(pair));
-    if (m_recent.size() > kMaxRecent) m_recent.resize(kMaxRecent);
+    std::vector<RecentPair> recent = Recent();
+    std::erase(recent, pair);
+    recent.insert(recent.begin(), std::move(pair));
+    if (recent.size() > kMaxRecentPairs) recent.resize(kMaxRecentPairs);
+    if (recent == m_recent) return;
+    m_recent = std::move(recent);
+    SaveRecentPairs(m_settings, m_recent);
+}
+
+std::vector<RecentPair> CConverterPage::Recent() const {
+    std::vector<RecentPair> recent = m_recent;
+    std::erase_if(recent, [this](const RecentPair& pair) { return !HasPair(m_tables, pair); });
+    return recent;
 }
 
 void CConverterPage::Recall(const RecentPair& pair) {

@@ -7,26 +7,16 @@
 
 #include "platform/message_boxes.h"
 #include "shell/texts.h"
+#include "tools/converter/recent_pairs.h"
 #include "tools/converter/unit_tables.h"
 
 namespace rlx {
 
-/// Two units that were converted lately.
-struct RecentPair {
-    std::size_t category = 0;
-    std::u16string from;
-    std::u16string to;
-
-    friend bool operator==(const RecentPair&, const RecentPair&) = default;
-};
-
 /// What the converter page holds and computes: category, two units, value and result. The result is computed anew after
-/// each change. Does not own texts and boxes; user-interface thread.
+/// each change. Does not own texts, boxes and settings; user-interface thread.
 class CConverterPage {
 public:
-    static constexpr std::size_t kMaxRecent = 8;
-
-    CConverterPage(const ITexts& texts, IMessageBoxes& boxes);
+    CConverterPage(const ITexts& texts, IMessageBoxes& boxes, CRegistryStore& settings);
 
     /// Takes the units as they now are. The chosen units stay chosen by name where they are still there.
     void SetTables(UnitTables tables);
@@ -45,7 +35,7 @@ public:
     /// Value and result become "0".
     void Reset();
 
-    /// Notes the pair as used, newest first; called when a conversion is finished rather than at each key.
+    /// Notes the pair as used, in the settings too; called when a conversion is finished rather than at each key.
     void Remember();
     void Recall(const RecentPair& pair);
 
@@ -57,7 +47,9 @@ public:
     double Value() const;
     double Result() const { return m_result; }
     const std::u16string& ResultText() const { return m_resultText; }
-    const std::vector<RecentPair>& Recent() const { return m_recent; }
+
+    /// The pairs used lately, newest first, without those of which a unit is gone.
+    std::vector<RecentPair> Recent() const;
 
 private:
     /// Whether a value below absolute zero is told each time, or only when the one before was not.
@@ -68,6 +60,7 @@ private:
 
     const ITexts& m_texts;
     IMessageBoxes& m_boxes;
+    CRegistryStore& m_settings;
     UnitTables m_tables;
     std::size_t m_category = 0;
     std::size_t m_from = 0;
@@ -76,7 +69,7 @@ private:
     bool m_belowZero = false;
     double m_result = 0;
     std::u16string m_resultText = u"0";
-    std::vector<RecentPair> m_recent;
+    std::vector<RecentPair> m_recent;  ///< as in the settings
 };
 
 }  // namespace rlx

@@ -6,7 +6,9 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "platform/fake/memory_registry.h"
 #include "platform/fake/scripted_message_boxes.h"
+#include "shell/setting_names.h"
 #include "support/number_texts.h"
 #include "tools/converter/converter_page.h"
 #include "tools/converter/unit_search.h"
@@ -120,7 +122,9 @@ protected:
 
     test::CNumberTexts m_texts;
     CScriptedMessageBoxes m_boxes;
-    CConverterPage m_page{m_texts, m_boxes};
+    CMemoryRegistry m_registry;
+    CRegistryStore m_settings{m_registry};
+    CConverterPage m_page{m_texts, m_boxes, m_settings};
 };
 
 TEST_F(ConverterPageTest, ComputesAfterEachChange) {
@@ -178,6 +182,34 @@ TEST_F(ConverterPageTest, KeepsUnitsByNameAndRemembersPairs) {
     m_page.SetTables({});  // the database cannot be read any more
     m_page.SetValue(u"5");
     EXPECT_EQ(m_page.ResultText(), u"0");
+}
+
+TEST_F(ConverterPageTest, RecentPairsOutliveTheProgramButNotTheirUnits) {
+    m_page.SelectCategory(1);
+    for (std::size_t to = 0; to < 10; ++to) {
+        m_page.SelectTo(to);
+        m_page.Remember();
+    }
+    const std::vector<RecentPair> all = m_page.Recent();
+    ASSERT_EQ(all.size(), kMaxRecentPairs);
+    EXPECT_EQ(all[0], (RecentPair{1, u"Cable (in)", u"Microinch"}));
+
+    UnitTables tables = SeedTables();
+    CConverterPage later(m_texts, m_boxes, m_settings);
+    EXPECT_TRUE(later.Recent().empty()) << "units that cannot be read";
+    later.SetTables(tables);
+    EXPECT_EQ(later.Recent(), all);
+    std::erase_if(tables[1], [](const Unit& unit) { return unit.name == u"Microinch"; });
+    later.SetTables(tables);
+    EXPECT_EQ(later.Recent(), std::vector<RecentPair>(all.begin() + 1, all.end()));
+}
+
+TEST(RecentPairs, LinesThatNameNoPairAreLeftOut) {
+    CMemoryRegistry registry;
+    CRegistryStore settings(registry);
+    settings.WriteString(RootOf(keys::kConverter), keys::kConverter, names::kRecentPairs,
+                         u"1\tFeet\tInch\n\n7\tFeet\tInch\n1\tFeet\n12\tFeet\tInch\n-\t\t\n6\tPound\tTonne");
+    EXPECT_EQ(LoadRecentPairs(settings), (std::vector<RecentPair>{{1, u"Feet", u"Inch"}, {6, u"Pound", u"Tonne"}}));
 }
 
 }  // namespace

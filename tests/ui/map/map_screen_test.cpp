@@ -100,7 +100,7 @@ TEST_F(MapScreen, ScrubberMovesClockPanelAndNightAndNowReturns) {
     Scrub(0.5);
     EXPECT_FALSE(IsBlack(sahara));
     EXPECT_EQ(screen.Shown(), (DateTime{{2026, 11, 22}, 12, 0, 0, 0}));
-    EXPECT_EQ(Clock(), "Amsterdam, 12:00:00, 22/11 Sun");
+    EXPECT_EQ(Clock(), "Amsterdam, 12:00:00, 22/11/2026 Sun");
     QTest::mouseClick(Child<QToolButton>("mapSpan"), Qt::LeftButton);
     Scrub(0.0);
     EXPECT_EQ(screen.Shown().date, (Date{2026, 1, 1}));
@@ -118,7 +118,7 @@ TEST_F(MapScreen, MapClockTwelveHoursAndTipAreSettings) {
     device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kMapTip, 0);
     screen.Refresh();
     Show();
-    EXPECT_EQ(Clock(), "New York, 3:10:05 PM, 22/11 Sun");
+    EXPECT_EQ(Clock(), "New York, 3:10:05 PM, 22/11/2026 Sun");
     EXPECT_NE(Panel().find("Sunrise 8:1"), std::string::npos) << Panel();
     EXPECT_NE(Panel().find(" AM"), std::string::npos);
     screen.Entered();
@@ -138,7 +138,8 @@ TEST_F(MapScreen, BrokenImageLeavesAPlainMapAndSaysSo) {
 }
 
 TEST_F(MapScreen, PartsNeverOverlapAndLieWithinTheWindow) {
-    for (const QSize& size : {QSize(240, 246), QSize(272, 210), QSize(480, 540), QSize(1180, 770), QSize(900, 300)}) {
+    for (const QSize& size :
+         {QSize(240, 246), QSize(272, 210), QSize(480, 540), QSize(720, 440), QSize(1180, 770), QSize(900, 300)}) {
         const QRect area({0, 0}, size);
         const MapLayout layout = LayOutMap(area);
         const QRect parts[] = {layout.picture, layout.scrubber, layout.clock, layout.span, layout.now, layout.panel};
@@ -148,7 +149,7 @@ TEST_F(MapScreen, PartsNeverOverlapAndLieWithinTheWindow) {
                 EXPECT_TRUE(&part == &other || !part.intersects(other)) << size.width();
         }
         EXPECT_GE(layout.picture.width(), size.width() / 2) << size.width();
-        EXPECT_GE(layout.panel.height(), 60) << size.width();
+        EXPECT_GE(layout.panel.height(), std::clamp(size.height() / 4, 60, 88)) << size.width();
     }
 }
 

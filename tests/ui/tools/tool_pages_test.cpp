@@ -47,7 +47,7 @@ protected:
     QString Result() { return test::Child<QLineEdit>(page, "result")->text(); }
 
     test::ToolsDevice device;
-    CConverterTool page{device.store, device.resources, device.boxes, device.look};
+    CConverterTool page{device.store, device.settings, device.resources, device.boxes, device.look};
 };
 
 TEST_F(ConverterTool, ConvertsWhileOneTypesAndAfterEachChoice) {

@@ -28,9 +28,9 @@ QFont Sized(QFont font, int pixels) {
 
 }  // namespace
 
-CConverterTool::CConverterTool(IObjectStore& store, const CResources& resources, IMessageBoxes& boxes,
-                               const CLook& look)
-    : m_resources(resources), m_boxes(boxes), m_look(look), m_database(store), m_page(resources, boxes) {
+CConverterTool::CConverterTool(IObjectStore& store, CRegistryStore& settings, const CResources& resources,
+                               IMessageBoxes& boxes, const CLook& look)
+    : m_resources(resources), m_boxes(boxes), m_look(look), m_database(store), m_page(resources, boxes, settings) {
     setObjectName("converterPage");
     MakeSelectors();
     MakeFields();

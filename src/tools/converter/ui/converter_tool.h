@@ -24,7 +24,8 @@ class CConverterTool : public CToolPage {
 
 public:
     /// All references must outlive the page.
-    CConverterTool(IObjectStore& store, const CResources& resources, IMessageBoxes& boxes, const CLook& look);
+    CConverterTool(IObjectStore& store, CRegistryStore& settings, const CResources& resources, IMessageBoxes& boxes,
+                   const CLook& look);
 
     int TitleText() const override { return kTextToolConverter; }
     QString IconName() const override { return QStringLiteral("converter"); }

@@ -1,7 +1,6 @@
 #include "tools/packing/ui/packing_page.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QScroller>
 #include <algorithm>
 
@@ -9,8 +8,6 @@
 #include "shell/command_ids.h"
 #include "shell/fill_text.h"
 #include "tools/packing/text_ids.h"
-#include "tools/packing/ui/add_items_dialog.h"
-#include "tools/packing/ui/packing_dialogs.h"
 #include "uikit/icons.h"
 #include "uikit/page_palette.h"
 #include "uikit/qt_text.h"
@@ -23,16 +20,6 @@ constexpr int kMargin = 6;
 constexpr int kGap = 4;
 constexpr int kLowScreen = 220;
 constexpr int kWidthForBoth = 260;  // of list and buttons beside it
-constexpr int kLongestItem = 32767;
-
-/// The first name of categories and of lists is content of the file, but shown in the language in force.
-template <typename Named>
-QStringList ShownNames(const std::vector<Named>& among, std::u16string_view first, const std::u16string& firstShown) {
-    QStringList names;
-    for (const Named& one : among)
-        names << ToQString(names.isEmpty() && one.name == first ? firstShown : one.name);
-    return names;
-}
 
 }  // namespace
 
@@ -42,17 +29,18 @@ CPackingPage::CPackingPage(IFileSystem& files, const std::filesystem::path& fold
       m_look(look),
       m_organizer(files, folder, resources, boxes),
       m_model(m_organizer),
-      m_categories(new CPackingSelector(this)),
-      m_lists(new CPackingSelector(this)),
+      m_prompts(m_organizer, resources, this),
+      m_selectors(new CPackingSelectors(m_organizer, resources, this)),
       m_view(new CPackingListView(this)),
       m_status(new CPackingStatus(ToQString(resources.Text(kTextEditItemHint)), this)),
       m_filters(new QActionGroup(this)),
       m_undo(new QAction(ToQString(resources.Text(kTextUndo)), this)),
       m_layout(new QGridLayout(this)) {
     setObjectName("packingPage");
-    MakeSelectors();
+    connect(m_selectors, &CPackingSelectors::Selected, this, &CPackingPage::Show);
     MakeList();
     MakeCommands();
+    MakeItemMenu();
     LayOut();
     connect(&m_look, &CLook::Changed, this, &CPackingPage::ApplyLook);
     ApplyLook();
@@ -63,10 +51,7 @@ void CPackingPage::LayOut() {
     m_layout->setSpacing(kGap);
     m_layout->setRowStretch(1, 1);
     m_layout->setColumnStretch(0, 1);
-    auto* selectors = new QHBoxLayout;
-    selectors->addWidget(m_categories, 1);
-    selectors->addWidget(m_lists, 1);
-    m_layout->addLayout(selectors, 0, 0, 1, 2);
+    m_layout->addWidget(m_selectors, 0, 0, 1, 2);
     m_layout->addWidget(m_view, 1, 0, 1, 2);
     m_layout->addWidget(m_status, 2, 0, 1, 2);
     m_layout->addWidget(m_bar, 3, 0, 1, 2);
@@ -86,19 +71,6 @@ void CPackingPage::resizeEvent(QResizeEvent* /*event*/) {
     }
 }
 
-void CPackingPage::MakeSelectors() {
-    m_categories->setObjectName("categories");
-    m_lists->setObjectName("lists");
-    connect(m_categories, &QComboBox::currentIndexChanged, this, [this](int index) {
-        m_organizer.SelectCategory(static_cast<std::size_t>(index));
-        Show();
-    });
-    connect(m_lists, &QComboBox::currentIndexChanged, this, [this](int index) {
-        m_organizer.SelectList(static_cast<std::size_t>(index));
-        Show();
-    });
-}
-
 void CPackingPage::MakeList() {
     m_view->setObjectName("items");
     m_view->setModel(&m_model);
@@ -116,18 +88,18 @@ void CPackingPage::MakeList() {
 }
 
 void CPackingPage::MakeCommands() {
-    m_commands.Add(kCommandAddCategory, this, [this] { AskForCategory(); });
-    m_commands.Add(kCommandAddList, this, [this] { AskForList(); });
-    m_commands.Add(kCommandAddItems, this, [this] { AskForItems(); })->setShortcut(Qt::Key_Insert);
-    const auto change = [this](int command, bool (CPackingOrganizer::*act)()) {
-        m_commands.Add(command, this, [this, act] {
-            if ((m_organizer.*act)()) Show();
+    const auto change = [this](int command, auto& object, auto act) {
+        m_commands.Add(command, this, [this, &object, act] {
+            if ((object.*act)()) Show();
         });
     };
-    change(kCommandDeleteCategory, &CPackingOrganizer::DeleteCategory);
-    change(kCommandDeleteList, &CPackingOrganizer::DeleteList);
-    change(kCommandDeleteAllItems, &CPackingOrganizer::DeleteAllItems);
-    change(kCommandUncheckAll, &CPackingOrganizer::UncheckAll);
+    change(kCommandAddCategory, m_prompts, &CPackingPrompts::AddCategory);
+    change(kCommandAddList, m_prompts, &CPackingPrompts::AddList);
+    m_commands.Add(kCommandAddItems, this, [this] { AddItems(); })->setShortcut(Qt::Key_Insert);
+    change(kCommandDeleteCategory, m_organizer, &CPackingOrganizer::DeleteCategory);
+    change(kCommandDeleteList, m_organizer, &CPackingOrganizer::DeleteList);
+    change(kCommandDeleteAllItems, m_organizer, &CPackingOrganizer::DeleteAllItems);
+    change(kCommandUncheckAll, m_organizer, &CPackingOrganizer::UncheckAll);
     m_commands.Add(kCommandDeleteItem, this, [this] { DeleteSelected(); })->setShortcut(Qt::Key_Delete);
     MakeFilter(kCommandShowAll, PackingFilter::kAll);
     MakeFilter(kCommandShowChecked, PackingFilter::kChecked);
@@ -136,15 +108,30 @@ void CPackingPage::MakeCommands() {
     connect(m_undo, &QAction::triggered, this, [this] {
         if (m_organizer.UndoDelete()) Show();
     });
-    auto* edit = new QAction(this);
-    edit->setShortcut(Qt::Key_F2);
-    connect(edit, &QAction::triggered, this, [this] { EditItem(m_view->currentIndex()); });
-    for (QAction* action : {m_commands.Find(kCommandAddItems), m_commands.Find(kCommandDeleteItem), m_undo, edit}) {
+    for (QAction* action : {m_commands.Find(kCommandAddItems), m_commands.Find(kCommandDeleteItem), m_undo}) {
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         addAction(action);
     }
     m_bar = new CPackingBar(m_resources.Menu(kMenuPacking).value_or(MenuTemplate{}), m_commands, m_undo, this);
     connect(m_status, &CPackingStatus::FilterDismissed, m_commands.Find(kCommandShowAll), &QAction::trigger);
+}
+
+/// What one does to an item, at the item itself: by a right click or the menu key.
+void CPackingPage::MakeItemMenu() {
+    auto* edit = new QAction(ToQString(m_resources.Text(kTextEditItem)), this);
+    edit->setShortcut(Qt::Key_F2);
+    edit->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(edit, &QAction::triggered, this, [this] { EditItem(m_view->currentIndex()); });
+    addAction(edit);
+    auto* remove = new QAction(ToQString(m_resources.Text(kTextDeleteItem)), this);
+    connect(remove, &QAction::triggered, this, &CPackingPage::DeleteSelected);
+    const QAction* command = m_commands.Find(kCommandDeleteItem);
+    connect(command, &QAction::changed, this, [command, edit, remove] {
+        edit->setEnabled(command->isEnabled());
+        remove->setEnabled(command->isEnabled());
+    });
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_view->addActions({edit, remove});
 }
 
 void CPackingPage::MakeFilter(int command, PackingFilter filter) {
@@ -184,7 +171,7 @@ void CPackingPage::Refresh() {
 void CPackingPage::Show() {
     m_settle.stop();
     const std::optional<std::size_t> selected = SelectedItem();
-    ShowSelectors();
+    m_selectors->Show();
     m_model.Reload();
     m_view->SetEmptyText(EmptyText());
     if (m_model.rowCount() > 0) {
@@ -192,14 +179,6 @@ void CPackingPage::Show() {
         m_view->setCurrentIndex(before.isValid() ? before : m_model.index(0));
     }
     ShowStatus();
-}
-
-void CPackingPage::ShowSelectors() {
-    const std::vector<PackingCategory>& categories = m_organizer.Lists().Categories();
-    const ListPlace current = m_organizer.Current();
-    m_categories->Show(ShownNames(categories, kAllCategoryName, m_resources.Text(kTextAllCategory)), current.category);
-    m_lists->Show(ShownNames(categories[current.category].lists, kAllItemsName, m_resources.Text(kTextAllItems)),
-                  current.list);
 }
 
 void CPackingPage::ShowStatus() {
@@ -232,25 +211,9 @@ void CPackingPage::SelectItem(std::size_t item) {
     if (index.isValid()) m_view->scrollTo(index);
 }
 
-void CPackingPage::AskForCategory() {
-    if (!m_organizer.HasRoomForCategory()) return;
-    const auto take = [this](const std::u16string& name, const std::vector<std::u16string>& items) {
-        return m_organizer.AddCategory(name, items);
-    };
-    if (CNewCategoryDialog(m_resources, take, this).exec() == QDialog::Accepted) Show();
-}
-
-void CPackingPage::AskForList() {
-    if (!m_organizer.HasRoomForList()) return;
-    const auto take = [this](const std::u16string& name) { return m_organizer.AddList(name); };
-    CPackingTextDialog dialog(m_resources, kTextNewList, {}, static_cast<int>(kMaxNameLength), take, this);
-    if (dialog.exec() == QDialog::Accepted) Show();
-}
-
-/// What was added before the dialog was given up stays added.
-void CPackingPage::AskForItems() {
+void CPackingPage::AddItems() {
     const std::size_t before = m_organizer.CurrentList().items.size();
-    CAddItemsDialog(m_organizer, m_resources, this).exec();
+    m_prompts.AddItems();
     Show();
     if (m_organizer.CurrentList().items.size() > before) SelectItem(m_organizer.CurrentList().items.size() - 1);
 }
@@ -263,12 +226,7 @@ void CPackingPage::EditDoubleClicked(const QModelIndex& index) {
 }
 
 void CPackingPage::EditItem(const QModelIndex& index) {
-    if (!index.isValid()) return;
-    const std::size_t item = m_model.ItemAt(index);
-    const auto take = [this, item](const std::u16string& text) { return m_organizer.EditItem(item, text); };
-    const QString text = index.data(Qt::DisplayRole).toString();
-    if (CPackingTextDialog(m_resources, kTextEditItem, text, kLongestItem, take, this).exec() == QDialog::Accepted)
-        Show();
+    if (index.isValid() && m_prompts.EditItem(m_model.ItemAt(index))) Show();
 }
 
 void CPackingPage::DeleteSelected() {

@@ -13,7 +13,8 @@
 #include "tools/packing/ui/packing_bar.h"
 #include "tools/packing/ui/packing_item_model.h"
 #include "tools/packing/ui/packing_list_view.h"
-#include "tools/packing/ui/packing_selector.h"
+#include "tools/packing/ui/packing_prompts.h"
+#include "tools/packing/ui/packing_selectors.h"
 #include "tools/packing/ui/packing_status.h"
 #include "uikit/look.h"
 #include "uikit/template_menu.h"
@@ -44,22 +45,19 @@ protected:
 
 private:
     void LayOut();
-    void MakeSelectors();
     void MakeList();
     void MakeCommands();
+    void MakeItemMenu();
     void MakeFilter(int command, PackingFilter filter);
     void ApplyLook();
 
     void Show();
-    void ShowSelectors();
     void ShowStatus();
     void SelectItem(std::size_t item);
     QString EmptyText() const;
     std::optional<std::size_t> SelectedItem() const;
 
-    void AskForCategory();
-    void AskForList();
-    void AskForItems();
+    void AddItems();
     void EditItem(const QModelIndex& index);
     void EditDoubleClicked(const QModelIndex& index);
     void DeleteSelected();
@@ -71,8 +69,8 @@ private:
     CCommandTable m_commands;
     bool m_loaded = false;
     QTimer m_settle;  ///< runs while rows that the filter hides are still shown
-    CPackingSelector* m_categories;
-    CPackingSelector* m_lists;
+    CPackingPrompts m_prompts;
+    CPackingSelectors* m_selectors;
     CPackingListView* m_view;
     CPackingStatus* m_status;
     QActionGroup* m_filters;
