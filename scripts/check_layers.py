@@ -15,6 +15,7 @@ RESTRICTED = {
     "qt": re.compile(r"^(Q[A-Z]\w*|Qt\w+/.*)$"),
     "sqlite3": re.compile(r"^sqlite3"),
     "curl": re.compile(r"^curl/"),
+    "cctz": re.compile(r"^cctz/"),
     "png": re.compile(r"^png\.h$"),
     "jpeg": re.compile(r"^jpeglib\.h$"),
     "json": re.compile(r"^nlohmann/"),

@@ -48,6 +48,7 @@ CApplication::CApplication(const WindowOptions& options)
     m_window = std::make_unique<CMainWindow>(m_clock, m_resources);
     if (!m_options.quiet) new CWindowPlacement(*m_window, m_store->Registry());
     m_windowBoxes.SetOwner(m_window.get());
+    m_cityCommands->SetWindow(*m_window);
     m_skins = std::make_unique<CSkinCommands>(SkinPorts{m_files, m_codec, m_resources, m_boxes}, m_folder->Root(),
                                               *m_settings, m_look, *m_window);
     MakeScreens();
@@ -81,10 +82,14 @@ void CApplication::OpenFolder() {
 }
 
 /// Without a display there is nobody to ask.
+bool CApplication::MayAsk() const {
+    const QString platform = QGuiApplication::platformName();
+    return !m_options.quiet && platform != "offscreen" && platform != "minimal";
+}
+
 bool CApplication::StartLanguage() {
-    const bool seen = QGuiApplication::platformName() != "offscreen" && QGuiApplication::platformName() != "minimal";
     const LanguagePorts ports{m_files, *m_folder, m_resources, m_boxes};
-    m_languages.emplace(ports, *m_settings, seen && !m_options.quiet);
+    m_languages.emplace(ports, *m_settings, MayAsk());
     return m_languages->Start(m_resources);
 }
 
@@ -92,6 +97,9 @@ void CApplication::OpenCities() {
     const auto cityFile = m_folder->Path(u"\\cities.lst").value_or(m_folder->Root() / "cities.lst");
     m_cities.emplace(m_store->Objects(), m_files, m_boxes, m_resources, cityFile);
     m_cities->EnsureCreated();
+    m_cityCommands.emplace(CCityCommands::Ports{m_store->Objects(), m_store->Registry(), m_files, m_boxes, m_clock,
+                                                m_resources, *m_cities, *m_settings},
+                           m_folder->Root(), cityFile);
 }
 
 void CApplication::MakeScreens() {
@@ -174,6 +182,8 @@ void CApplication::MakeReminders() {
 void CApplication::MakeCommands() {
     m_commands.Add(kCommandHomeCity, this, [this] { m_clocksScreen->ChangeCity(0); });
     m_commands.Add(kCommandReminders, this, [this] { m_reminders->Open(std::nullopt); });
+    m_commands.Add(kCommandEditCities, this, [this] { m_cityCommands->Edit(); });
+    m_commands.Add(kCommandRefreshRules, this, [this] { m_cityCommands->RefreshRules(); });
     m_commands.Add(kCommandTwelveHour, this, [this] { ToggleSetting(keys::kRoamlytix, names::kTwelveHour); })
         ->setCheckable(true);
     m_commands.Add(kCommandDeviceTimeZone, this, [this] { ToggleSetting(keys::kWorldClock, names::kSyncZone); })
@@ -261,6 +271,13 @@ void CApplication::ShowAbout() {
 }
 
 void CApplication::Show() {
+    m_window->AskFirst([this] {
+        if (!MayAsk()) return;
+        const QString title = ToQString(m_resources.Text(kTextChooseHomeCity));
+        const auto choose = [&](CityIndex proposed) { return ChooseCity(m_window.get(), title, proposed); };
+        if (const auto home = m_cityCommands->AskHomeCity(choose)) m_clocksScreen->StoreCity(0, *home);
+        m_cityCommands->TellOldRules();
+    });
     if (m_options.fullScreen) {
         m_window->showFullScreen();
     } else {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "app/city_commands.h"
 #include "app/feed_wiring.h"
 #include "app/language_commands.h"
 #include "app/main_window.h"
@@ -60,6 +61,7 @@ public:
 private:
     void OpenStore();
     void OpenFolder();
+    bool MayAsk() const;
     bool StartLanguage();
     void OpenCities();
     void MakeScreens();
@@ -94,6 +96,7 @@ private:
     std::optional<CApplicationFolder> m_folder;
     std::optional<CLanguageCommands> m_languages;
     std::optional<CCityDatabase> m_cities;
+    std::optional<CCityCommands> m_cityCommands;
     std::optional<CWeatherStore> m_weather;
     CCommandTable m_commands;
     std::optional<CFeedWiring> m_feeds;

@@ -5,6 +5,7 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QWindowStateChangeEvent>
+#include <utility>
 
 #include "app/text_ids.h"
 #include "news/text_ids.h"
@@ -150,6 +151,7 @@ void CMainWindow::showEvent(QShowEvent* event) {
     if (event->spontaneous()) return;
     // Once the window stands there: what a screen has to say at first must not come before it.
     QTimer::singleShot(0, this, [this] {
+        if (const auto ask = std::exchange(m_askFirst, nullptr)) ask();
         if (CScreen* screen = Current()) screen->Entered();
     });
 }

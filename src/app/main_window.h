@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QStackedWidget>
 #include <QWidget>
+#include <functional>
 #include <vector>
 
 #include "app/screen_row.h"
@@ -51,6 +52,9 @@ public:
     /// Every screen reads again what it shows.
     void RefreshScreens();
 
+    /// What is to be asked once, when the window stands there and before a screen says something.
+    void AskFirst(std::function<void()> ask) { m_askFirst = std::move(ask); }
+
 signals:
     void ScreenShown(int index);
     void NewsChosen();
@@ -78,6 +82,7 @@ private:
     CSecondTicker m_ticker;
     std::vector<CScreen*> m_screens;
     int m_inRow = 0;
+    std::function<void()> m_askFirst;
 };
 
 }  // namespace rlx

@@ -27,6 +27,7 @@ bool CByteReader::AtEnd() {
 }
 
 bool CByteReader::Fill() {
+    m_before += m_at;
     m_filled = m_stream.Read(m_block.data(), m_block.size());
     m_at = 0;
     return m_filled > 0;

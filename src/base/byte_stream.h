@@ -38,6 +38,9 @@ public:
     /// True when no byte is left. May read a block to find out.
     bool AtEnd();
 
+    /// How many bytes were handed out.
+    std::size_t Taken() const { return m_before + m_at; }
+
 private:
     bool Fill();
 
@@ -47,6 +50,7 @@ private:
     std::string m_block;
     std::size_t m_at = 0;
     std::size_t m_filled = 0;
+    std::size_t m_before = 0;  ///< bytes of the blocks before this one
 };
 
 }  // namespace rlx

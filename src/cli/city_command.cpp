@@ -4,7 +4,10 @@
 #include "base/text.h"
 #include "cli/commands.h"
 #include "places/city_info.h"
+#include "places/city_list_messages.h"
 #include "places/city_search.h"
+#include "platform/posix/time_zones_module.h"
+#include "shell/program_paths.h"
 #include "shell/text_ids.h"
 
 namespace rlx::cli {
@@ -56,6 +59,21 @@ int Find(CSession& session, CAnswer& answer, const std::string& text) {
     return kDone;
 }
 
+/// `year` 0 stands for the year of the device's clock.
+int Refresh(CSession& session, CAnswer& answer, int year) {
+    const Date today = session.Clock().Now().date;
+    if (year == 0) year = today.year;
+    if (!session.KeepsChanges()) return session.Fail(session.Text(kTextFileNotSaved, u"rlxCities"));
+    CTimeZonesModule zones(ProgramFolders({}).executableFolder);
+    const RulesRefresh refresh =
+        RefreshRules(session.CityLists(), zones, session.Files(), session.Folder().Root(), RulesDay(year, today));
+    if (!ReportRefresh(refresh, session.Boxes(), session.Texts())) return kFailed;
+    answer.Set("count", refresh.changed);
+    answer.Set("year", year);
+    answer.Line(RefreshText(refresh, year, session.Texts()));
+    return kDone;
+}
+
 int Rebuild(CSession& session, CAnswer& answer) {
     CCityDatabase& cities = session.CitiesAsTheyAre();
     const CityListState state = cities.Rebuild();
@@ -79,6 +97,13 @@ void DeclareCity(CLI::App& app, const SetAction& setAction) {
     CLI::App* find = DeclareSub(app, "find", "cities whose name begins with TEXT", setAction,
                                 [word](CSession& s, CAnswer& a) { return Find(s, a, *word); });
     find->add_option("TEXT", *word, "beginning of a name")->required();
+    auto year = std::make_shared<int>(0);
+    CLI::App* refresh = DeclareSub(app, "refresh", "the daylight-saving rules of a year for all cities", setAction,
+                                   [year](CSession& s, CAnswer& a) { return Refresh(s, a, *year); });
+    AddInteger(
+        *refresh, "--year", {kFirstRulesYear, kLastRulesYear},
+        [year](std::int64_t value) { *year = static_cast<int>(value); }, "another year than that of the device's clock")
+        ->type_name("YEAR");
     DeclareSub(app, "rebuild", "build the cities database anew from \"cities.lst\"", setAction, Rebuild);
 }
 

@@ -7,7 +7,7 @@ namespace rlx::cli {
 std::span<const Command> Commands() {
     static constexpr std::array kCommands = {
         Command{"clocks", "the home clock and the four others", DeclareClocks},
-        Command{"city", "cities: show, list, find, rebuild", DeclareCity},
+        Command{"city", "cities: show, list, find, refresh, rebuild", DeclareCity},
         Command{"time", "local time and date of a city", DeclareTime},
         Command{"sun", "sunrise, sunset and length of the day of a city", DeclareSun},
         Command{"sky", "where the sun stands at an instant", DeclareSky},
@@ -25,6 +25,7 @@ std::span<const Command> Commands() {
         Command{"units", "units of the converter: list, add, delete", DeclareUnits},
         Command{"dial", "dialing and area codes", DeclareDial},
         Command{"sizes", "clothing sizes of other countries", DeclareSizes},
+        Command{"doctor", "looks for faults in files, settings and the store", DeclareDoctor},
         Command{"today", "a summary for a status bar, and what it shows", DeclareToday},
         Command{"credits", "where the data comes from", DeclareCredits},
     };

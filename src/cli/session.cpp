@@ -5,6 +5,7 @@
 #include "base/number.h"
 #include "base/text.h"
 #include "cli/text_ids.h"
+#include "places/city_list_messages.h"
 #include "places/city_search.h"
 #include "platform/posix/frozen_clock.h"
 #include "platform/posix/posix_file_system.h"
@@ -36,9 +37,11 @@ struct CSession::Parts {
     std::optional<CApplicationFolder> folder;
     std::unique_ptr<CDeviceStore> store;
     StoreOutcome outcome = StoreOutcome::kOpened;
+    std::optional<std::u16string> storeTrouble;
     std::optional<CRegistryStore> settings;
     std::optional<ClockSettings> clockChoices;
     std::optional<CCityDatabase> cities;
+    std::optional<CCityListStore> cityLists;
     bool citiesBuilt = false;
     std::optional<CCityTimes> times;
 };
@@ -79,7 +82,10 @@ CDeviceStore& CSession::Store() {
         OpenedStore opened = OpenDeviceStore(file, m_parts->clock);
         m_parts->store = std::move(opened.store);
         m_parts->outcome = opened.outcome;
-        if (const auto box = StoreMessage(opened.outcome, file, opened.movedAside, m_texts)) m_boxes.Show(*box);
+        if (const auto box = StoreMessage(opened.outcome, file, opened.movedAside, m_texts)) {
+            m_parts->storeTrouble = box->text;
+            m_boxes.Show(*box);
+        }
     }
     return *m_parts->store;
 }
@@ -110,7 +116,11 @@ IObjectStore& CSession::ObjectStore() {
 }
 
 CRegistryStore& CSession::Settings() {
-    if (!m_parts->settings) m_parts->settings.emplace(Registry());
+    if (!m_parts->settings) {
+        m_parts->settings.emplace(Registry());
+        // Choices of cities mean nothing before a change of the list that was cut short is ended.
+        if (IsCityChangeUnfinished(*m_parts->settings)) CitiesAsTheyAre();
+    }
     return *m_parts->settings;
 }
 
@@ -125,6 +135,15 @@ bool CSession::KeepsChanges() {
     return outcome == StoreOutcome::kOpened || outcome == StoreOutcome::kCreated || outcome == StoreOutcome::kReplaced;
 }
 
+std::optional<std::u16string> CSession::StoreTrouble() {
+    Store();
+    return m_parts->storeTrouble;
+}
+
+bool CSession::IsStoreSound() {
+    return Store().IsSound();
+}
+
 CCityDatabase& CSession::Cities() {
     CCityDatabase& cities = CitiesAsTheyAre();
     if (!m_parts->citiesBuilt && cities.EnsureCreated() == CityListState::kNotWritten)
@@ -137,8 +156,15 @@ CCityDatabase& CSession::CitiesAsTheyAre() {
     if (!m_parts->cities) {
         const auto file = Folder().Path(u"\\cities.lst").value_or(Folder().Root() / "cities.lst");
         m_parts->cities.emplace(ObjectStore(), m_parts->files, m_boxes, m_texts, file);
+        m_parts->cityLists.emplace(ObjectStore(), Registry(), m_parts->files, *m_parts->cities, file);
+        ReportCityList(m_parts->cityLists->Finish(), m_boxes, m_texts);
     }
     return *m_parts->cities;
+}
+
+CCityListStore& CSession::CityLists() {
+    CitiesAsTheyAre();
+    return *m_parts->cityLists;
 }
 
 CCityTimes& CSession::Times() {

@@ -9,6 +9,7 @@
 #include "cli/options.h"
 #include "cli/session_texts.h"
 #include "places/city_database.h"
+#include "places/city_list_store.h"
 #include "places/city_times.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
@@ -45,11 +46,20 @@ public:
     /// opened.
     bool KeepsChanges();
 
+    /// What was wrong with the store when it was opened; nothing when all was well.
+    std::optional<std::u16string> StoreTrouble();
+
+    /// Reads the whole store.
+    bool IsStoreSound();
+
     /// The cities, built from "cities.lst" when the store has none yet.
     CCityDatabase& Cities();
 
     /// The same without building them.
     CCityDatabase& CitiesAsTheyAre();
+
+    /// The list of the cities, for commands that change it.
+    CCityListStore& CityLists();
     CCityTimes& Times();
     const ClockSettings& ClockChoices();
 

@@ -1,13 +1,13 @@
 #include <memory>
 #include <optional>
 
+#include "base/iso_day.h"
 #include "base/text.h"
 #include "cli/commands.h"
 #include "cli/text_ids.h"
 #include "currency/text_ids.h"
 #include "feeds/currency_database.h"
 #include "feeds/rates_origin.h"
-#include "feeds/rates_update.h"
 #include "places/city_times.h"
 #include "shell/setting_names.h"
 #include "shell/text_ids.h"
@@ -57,8 +57,8 @@ void AddRates(CSession& session, CAnswer& answer, Summary& summary, const TodayO
     }
     const RatesOrigin origin =
         OriginOfRates(session.Registry(), ShippedRatesDate(session.Files(), session.Folder().Root()));
-    const std::u16string date = origin.date ? RatesDateText(*origin.date) : std::u16string();
-    answer.Set("updated", ToJson(date));
+    const std::u16string date = origin.date ? ShownDay(*origin.date) : std::u16string();
+    answer.Set("updated", ToUtf8(date));
     const bool stale = AreRatesStale(origin.date, session.Clock().Now().date);
     answer.Set("stale", stale);
     if (summary.rates.empty()) return;

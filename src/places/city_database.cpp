@@ -149,4 +149,16 @@ std::optional<CityRecord> CCityDatabase::Record(CityIndex index) {
     return ToCity(index, *record);
 }
 
+std::vector<std::u16string> CCityDatabase::Places() {
+    IRecordDatabase* database = Handle();
+    return database == nullptr ? std::vector<std::u16string>() : database->Texts(PROP_PLACE);
+}
+
+std::optional<CityIndex> CCityDatabase::IndexOf(std::u16string_view place) {
+    IRecordDatabase* database = Handle();
+    const auto id = database == nullptr ? std::nullopt : database->SeekValue(PROP_PLACE, place);
+    const auto position = id ? database->PositionOf(PROP_PLACE, *id) : std::nullopt;
+    return position ? std::optional(static_cast<CityIndex>(*position)) : std::nullopt;
+}
+
 }  // namespace rlx

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "places/city_record.h"
 #include "platform/file_system.h"
@@ -61,6 +62,12 @@ public:
 
     /// All of a city at the cost of one getter; nothing past the last city.
     std::optional<CityRecord> Record(CityIndex index);
+
+    /// The places of all cities in index order, in one pass.
+    std::vector<std::u16string> Places();
+
+    /// The first city of that place (name:country); nothing when there is none.
+    std::optional<CityIndex> IndexOf(std::u16string_view place);
 
 private:
     IRecordDatabase* Handle();

@@ -1,6 +1,6 @@
 #include "places/city_file.h"
 
-#include <array>
+#include <utility>
 
 #include "base/number.h"
 #include "base/read_token.h"
@@ -26,14 +26,25 @@ bool ReadFields(CByteReader& reader, Fields& fields) {
     return !IsEndMark(fields[kLastField - 1]);
 }
 
-CityLine LineOf(const Fields& f) {
-    return {f[1] + u":" + f[2], f[3] + u":" + f[4], f[5], f[6] + u":" + f[7] + u":" + f[8] + u":" + f[9] + u":" + f[10],
-            f[0]};
+CityFields CityOf(Fields&& f) {
+    return {std::move(f[0]),
+            std::move(f[1]),
+            std::move(f[2]),
+            std::move(f[3]),
+            std::move(f[4]),
+            std::move(f[5]),
+            {std::move(f[6]), std::move(f[7]), std::move(f[8]), std::move(f[9]), std::move(f[10])}};
+}
+
+CityLine LineOf(const CityFields& city) {
+    const auto& dst = city.dst;
+    return {city.Place(), city.longitude + u":" + city.latitude, city.gmt,
+            dst[0] + u":" + dst[1] + u":" + dst[2] + u":" + dst[3] + u":" + dst[4], city.zone};
 }
 
 }  // namespace
 
-bool ReadCityFile(IByteStream& file, const std::function<bool(const CityLine&)>& take) {
+bool ReadCityFields(IByteStream& file, const std::function<bool(CityFields&&, std::size_t)>& take) {
     CByteReader reader(file);
     const std::int32_t count = ParseInteger(ReadToken(reader, '\n'));
     for (std::int32_t line = 0; line < count && !reader.AtEnd(); ++line) {
@@ -42,9 +53,13 @@ bool ReadCityFile(IByteStream& file, const std::function<bool(const CityLine&)>&
         const bool cutShort = reader.AtEnd();
         fields[kLastField] = ReadToken(reader, '\n');
         if (cutShort && fields[1].empty()) break;
-        if (!take(LineOf(fields))) return false;
+        if (!take(CityOf(std::move(fields)), reader.Taken())) return false;
     }
     return true;
+}
+
+bool ReadCityFile(IByteStream& file, const std::function<bool(const CityLine&)>& take) {
+    return ReadCityFields(file, [&take](CityFields&& city, std::size_t) { return take(LineOf(city)); });
 }
 
 }  // namespace rlx

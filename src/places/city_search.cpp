@@ -1,6 +1,8 @@
 #include "places/city_search.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include "base/text.h"
 
@@ -91,13 +93,14 @@ std::vector<CityIndex> CCitySearch::Find(std::u16string_view text) {
 
 void CCitySearch::Load() {
     if (!m_entries.empty()) return;
-    const auto count = static_cast<CityIndex>(m_cities.Count());
-    m_entries.reserve(count);
-    for (CityIndex index = 0; index < count; ++index) {
-        const auto city = m_cities.Record(index);
-        if (!city) break;
-        const std::u16string name = FoldForSearch(city->name);
-        m_entries.push_back({name + u" " + FoldForSearch(city->country), name.size()});
+    const std::vector<std::u16string> places = m_cities.Places();
+    m_entries.reserve(places.size());
+    for (const std::u16string& place : places) {
+        Entry entry{FoldForSearch(place), 0};
+        // Folding leaves the ":" between name and country alone.
+        entry.nameLength = std::min(entry.text.find(u':'), entry.text.size());
+        if (entry.nameLength < entry.text.size()) entry.text[entry.nameLength] = u' ';
+        m_entries.push_back(std::move(entry));
     }
 }
 

@@ -63,5 +63,25 @@ inline constexpr TextId kTextChooseClockCity = 40171;
 inline constexpr TextId kTextCitySearchHint = 40172;
 inline constexpr TextId kTextRulesOutdated = 40175;
 inline constexpr TextId kTextCityGone = 40176;
+inline constexpr TextId kTextRulesRefreshed = 40177;
+inline constexpr TextId kTextRulesKept = 40178;
+inline constexpr TextId kTextNoZoneData = 40179;
+inline constexpr TextId kTextCityListFaulty = 40180;
+inline constexpr TextId kTextCityNameMissing = 40181;
+inline constexpr TextId kTextCountryMissing = 40182;
+inline constexpr TextId kTextCityCharacter = 40183;
+inline constexpr TextId kTextLongitudeRange = 40184;
+inline constexpr TextId kTextLatitudeRange = 40185;
+inline constexpr TextId kTextGmtRange = 40186;
+inline constexpr TextId kTextDstHoursRange = 40187;
+inline constexpr TextId kTextDstDayRange = 40188;
+inline constexpr TextId kTextDstHourRange = 40189;
+inline constexpr TextId kTextCityExists = 40190;
+inline constexpr TextId kTextZoneUnknown = 40191;
+inline constexpr TextId kTextAskDeleteCity = 40192;
+inline constexpr TextId kTextNewCity = 40193;
+inline constexpr TextId kTextChangeCity = 40194;
+inline constexpr TextId kTextDstPeriod = 40195;
+inline constexpr TextId kTextForecastListNotChanged = 40196;
 
 }  // namespace rlx

@@ -16,4 +16,13 @@ std::u16string PropertyText(const Record& record, PropertyId id) {
     return found == record.end() ? std::u16string() : found->text;
 }
 
+std::vector<std::u16string> IRecordDatabase::Texts(PropertyId sortProperty) {
+    std::vector<std::u16string> texts;
+    while (const auto id = SeekPosition(sortProperty, texts.size())) {
+        const auto record = Read(*id);
+        texts.push_back(record ? PropertyText(*record, sortProperty) : std::u16string());
+    }
+    return texts;
+}
+
 }  // namespace rlx

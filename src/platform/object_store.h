@@ -54,6 +54,9 @@ public:
 
     virtual std::optional<Record> Read(RecordId record) = 0;
 
+    /// That property of all records in its sort order, in one pass; empty when the database has no such sort order.
+    virtual std::vector<std::u16string> Texts(PropertyId sortProperty);
+
     /// Nothing when the device refuses the write or a property number comes twice; the database is then unchanged. So
     /// with the other two writes, which also fail when there is no such record.
     virtual std::optional<RecordId> Add(const Record& record) = 0;
@@ -87,7 +90,7 @@ public:
     /// Runs `work` as one step: when it returns true all its writes are there, else none. Nobody else sees a part of
     /// them, and of two processes that try at once the second waits for the first and then sees what it wrote. A call
     /// inside another joins it: its writes are there when the outer one's are; when it fails only its own are taken
-    /// back. Returns whether the writes are there.
+    /// back. On a device the writes of its registry join in too. Returns whether the writes are there.
     virtual bool Transact(const std::function<bool()>& work) = 0;
 };
 

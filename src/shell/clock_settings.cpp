@@ -6,11 +6,11 @@ namespace rlx {
 
 namespace {
 
-constexpr std::array<DwordSetting, 6> kSettings = {{{names::kHomeClock, 0},
-                                                    {names::kClocks[0], 684},
-                                                    {names::kClocks[1], 756},
-                                                    {names::kClocks[2], 565},
-                                                    {names::kClocks[3], 988},
+constexpr std::array<DwordSetting, 6> kSettings = {{{names::kHomeClock, kDefaultClockCities[0]},
+                                                    {names::kClocks[0], kDefaultClockCities[1]},
+                                                    {names::kClocks[1], kDefaultClockCities[2]},
+                                                    {names::kClocks[2], kDefaultClockCities[3]},
+                                                    {names::kClocks[3], kDefaultClockCities[4]},
                                                     {names::kSyncZone, 0, true}}};
 
 }  // namespace

@@ -16,6 +16,9 @@ struct ClockSettings {
     friend bool operator==(const ClockSettings&, const ClockSettings&) = default;
 };
 
+/// The cities of the home clock and the four others where nothing else is stored.
+inline constexpr std::array<std::uint32_t, 5> kDefaultClockCities = {0, 684, 756, 565, 988};
+
 /// Reads them with their defaults. On a device without them all six values are there afterwards; a missing "syncltz"
 /// is written in any case.
 ClockSettings LoadClockSettings(CRegistryStore& store);

@@ -46,6 +46,9 @@ inline constexpr std::u16string_view kTodayRates = u"todayscur";   ///< 1: rates
 inline constexpr std::u16string_view kWindow = u"window";          ///< bytes: place and size of the window
 inline constexpr std::u16string_view kToolPage = u"toolpage";      ///< page of Tools shown last, from 1; 0: the list
 
+/// Of `keys::kRoamlytix`: the year in which the person was told that the daylight-saving rules are older.
+inline constexpr std::u16string_view kRulesTold = u"rulestold";
+
 /// Text of `keys::kRoamlytix`: the `GuidText` of each connection that needs no confirmation, each followed by ";".
 inline constexpr std::u16string_view kAgreedConnections = u"connok";
 
@@ -53,6 +56,10 @@ inline constexpr std::u16string_view kAgreedConnections = u"connok";
 inline constexpr std::u16string_view kHomeClock = u"clock";
 inline constexpr std::u16string_view kClocks[4] = {u"clock1", u"clock2", u"clock3", u"clock4"};
 inline constexpr std::u16string_view kSyncZone = u"syncltz";  ///< not 0: the device clock follows the device's zone
+
+/// Text of `keys::kWorldClock`, there while "cities.lst" is being changed: "old place;new place;" for each city
+/// renamed.
+inline constexpr std::u16string_view kCityMoves = u"citymoves";
 
 /// Values of `keys::kMap`.
 inline constexpr std::u16string_view kMapClock = u"mapclock";  ///< which of the five clocks the map shows

@@ -15,6 +15,7 @@ NOW = "2026-07-10T23:30:07"
 
 class RlxTest(unittest.TestCase):
     maxDiff = None
+    environment = {}  # more of it for the program
 
     def setUp(self):
         self.folder = pathlib.Path(tempfile.mkdtemp())
@@ -32,7 +33,8 @@ class RlxTest(unittest.TestCase):
         return [RLX, "--home", self.home, "--store", self.store, "--now", now, "--bias", str(bias), *words]
 
     def run_rlx(self, *words, **settings):
-        return subprocess.run(self.words(*words, **settings), capture_output=True, stdin=subprocess.DEVNULL, timeout=60)
+        return subprocess.run(self.words(*words, **settings), capture_output=True, stdin=subprocess.DEVNULL, timeout=60,
+                              env={**os.environ, **self.environment})
 
     def answer(self, *words, status=0, messages=(), **settings):
         """The JSON members of a command whose exit status and message texts are as expected."""

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes cities.lst and cities.wet from a gazetteer and a tz database; README.md beside this file says how."""
+"""Makes cities.lst, cities.date and cities.wet from a gazetteer and a tz database; README.md beside this file says how."""
 
 import argparse
 import collections
@@ -23,7 +23,7 @@ def parse_arguments():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--gazetteer", type=pathlib.Path, required=True, help="cities500.txt")
     parser.add_argument("--tz", type=pathlib.Path, required=True, help="zoneinfo folder with its *.tab files")
-    parser.add_argument("--out", type=pathlib.Path, required=True, help="folder for cities.lst and cities.wet")
+    parser.add_argument("--out", type=pathlib.Path, required=True, help="folder for the three files")
     parser.add_argument("--day", type=datetime.date.fromisoformat, default=RULES_DAY, help="default %(default)s")
     parser.add_argument("--total", type=int, default=TOTAL, help="number of cities, default %(default)s")
     parser.add_argument("--explain", action="store_true", help="also print why each city is in")
@@ -76,6 +76,7 @@ def main():
     city_files.check_feed_names(chosen.places)
     lines = [city_files.city_line(place, rules[place.zone][0]) for place in chosen.places]
     city_files.write_counted_lines(options.out / "cities.lst", lines)
+    (options.out / "cities.date").write_text(f"{options.day.isoformat()}\n", encoding="ascii")
     weather_lines = [city_files.weather_line(place) for place in chosen.places]
     city_files.write_counted_lines(options.out / "cities.wet", weather_lines)
     report_choice(chosen, lost, fixed_ranks)

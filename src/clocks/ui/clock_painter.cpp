@@ -7,7 +7,8 @@ namespace rlx {
 
 namespace {
 
-constexpr int kRimOpacity = 70;  // of 255
+constexpr int kRimOpacity = 70;        // of 255
+constexpr double kHeightForNote = 46;  // pixels; four lines in less cannot be read
 
 QPointF OnCircle(const QPointF& centre, double radius, double degrees) {
     const double angle = degrees * M_PI / 180.0;
@@ -118,9 +119,16 @@ void PaintClockTexts(QPainter& painter, const QRectF& area, const ClockTexts& te
     const auto line = [&area, unit](double from, double rows) {
         return QRectF(area.left(), area.top() + from * unit, area.width(), rows * unit);
     };
+    if (!texts.note.isEmpty() && area.height() >= kHeightForNote) {
+        PaintLine(painter, line(0, 2.5), texts.city, colours.city, true, alignment);
+        PaintTime(painter, line(2.5, 3.3), texts, colours.digital, alignment);
+        PaintLine(painter, line(5.9, 2.0), texts.date, colours.date, false, alignment);
+        PaintLine(painter, line(7.9, 2.0), texts.note, colours.date, false, alignment);
+        return;
+    }
     PaintLine(painter, line(0.2, 2.9), texts.city, colours.city, true, alignment);
     PaintTime(painter, line(3.1, 3.9), texts, colours.digital, alignment);
-    const QString date = texts.note.isEmpty() ? texts.date : texts.date + QStringLiteral(" \u00B7 ") + texts.note;
+    const QString date = texts.shortNote.isEmpty() ? texts.date : texts.date + QStringLiteral("  ") + texts.shortNote;
     PaintLine(painter, line(7.2, 2.5), date, colours.date, false, alignment);
 }
 

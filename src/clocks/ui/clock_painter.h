@@ -25,7 +25,8 @@ struct ClockTexts {
     QString time;
     QString half;  ///< AM or PM, or empty
     QString date;
-    QString note;  ///< day difference to home, or empty
+    QString note;       ///< day and distance as seen from home, or empty
+    QString shortNote;  ///< the distance alone, for small clocks
 };
 
 /// Draws an analog face, day or night told by its ground, into the largest circle within `area`.

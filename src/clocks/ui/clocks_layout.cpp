@@ -19,8 +19,16 @@ QRectF TakeLeft(QRectF& rest, double width) {
     return left;
 }
 
+/// How high the texts are at most, as a part of their width: under the face and beside it.
+struct TextHeights {
+    double under;
+    double beside;
+};
+constexpr TextHeights kThreeLines = {0.46, 0.52};
+constexpr TextHeights kFourLines = {0.58, 0.68};
+
 /// Face above the texts in an upright card, else beside them.
-ClockCell CellOf(const QRectF& card, double padding) {
+ClockCell CellOf(const QRectF& card, double padding, const TextHeights& heights) {
     ClockCell cell;
     cell.card = card;
     QRectF inner = card.adjusted(padding, padding, -padding, -padding);
@@ -29,13 +37,13 @@ ClockCell CellOf(const QRectF& card, double padding) {
         const double face = std::min(inner.width(), inner.height() * 0.64);
         cell.face = TakeTop(inner, face);
         inner.setTop(inner.top() + padding * 0.6);
-        const double height = std::min(inner.height(), inner.width() * 0.46);
+        const double height = std::min(inner.height(), inner.width() * heights.under);
         inner.adjust(0, (inner.height() - height) / 2, 0, -(inner.height() - height) / 2);
     } else {
         const double face = std::min(inner.height(), inner.width() * 0.42);
         cell.face = TakeLeft(inner, face);
         inner.setLeft(inner.left() + padding);
-        const double height = std::min(inner.height(), inner.width() * 0.52);
+        const double height = std::min(inner.height(), inner.width() * heights.beside);
         inner.adjust(0, (inner.height() - height) / 2, 0, -(inner.height() - height) / 2);
     }
     cell.texts = inner;
@@ -77,9 +85,9 @@ ClocksLayout LayOutClocks(const QRectF& area) {
     const bool column = !upright && rest.width() < rest.height() * 1.05;
     const auto cells = column ? Grid(rest, 1, 4, gap) : Grid(rest, 2, 2, gap);
     ClocksLayout layout;
-    layout[0] = CellOf(home, gap * 1.4);
+    layout[0] = CellOf(home, gap * 1.4, kThreeLines);
     for (std::size_t i = 0; i < cells.size(); ++i)
-        layout[i + 1] = CellOf(cells[i], gap);
+        layout[i + 1] = CellOf(cells[i], gap, kFourLines);
     return layout;
 }
 

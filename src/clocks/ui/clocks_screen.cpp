@@ -11,6 +11,7 @@
 #include "base/number.h"
 #include "base/text.h"
 #include "clocks/text_ids.h"
+#include "places/home_distance.h"
 #include "places/text_ids.h"
 #include "shell/command_ids.h"
 #include "shell/fill_text.h"
@@ -129,7 +130,12 @@ ClockTexts CClocksScreen::TextsOf(std::size_t clock) const {
     const ClockReading& reading = m_clocks[clock];
     const ClockTextPieces time =
         ClockText(static_cast<int>(reading.hour), reading.minute, reading.second, m_form, m_resources);
-    return {ToQString(reading.name), ToQString(time.time), ToQString(time.half), ToQString(Trim(reading.dateText)), {}};
+    ClockTexts texts{
+        ToQString(reading.name), ToQString(time.time), ToQString(time.half), ToQString(Trim(reading.dateText)), {}, {}};
+    if (clock == 0) return texts;
+    texts.note = ToQString(HomeNote(m_clocks[0], reading, m_resources));
+    texts.shortNote = ToQString(ShortDistance(MinutesAhead(m_clocks[0], reading)));
+    return texts;
 }
 
 ClockColours CClocksScreen::ColoursOf(std::size_t clock) const {
@@ -302,8 +308,11 @@ void CClocksScreen::focusOutEvent(QFocusEvent* event) {
 /// Screen readers hear the clock that the user moved to, and no ticks.
 void CClocksScreen::NameFocusedClock() {
     const ClockTexts texts = TextsOf(m_focused);
-    setAccessibleDescription(texts.city + QStringLiteral(", ") + texts.time + texts.half + QStringLiteral(", ") +
-                             texts.date);
+    QString description =
+        texts.city + QStringLiteral(", ") + texts.time + texts.half + QStringLiteral(", ") + texts.date;
+    const std::int64_t ahead = MinutesAhead(m_clocks[0], m_clocks[m_focused]);
+    if (m_focused != 0) description += QStringLiteral(", ") + ToQString(DistanceText(ahead, m_resources));
+    setAccessibleDescription(description);
 }
 
 }  // namespace rlx

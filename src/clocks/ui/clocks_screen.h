@@ -54,6 +54,9 @@ public:
     /// Lets the user put another city on one of the five clocks.
     void ChangeCity(std::size_t clock);
 
+    /// Puts a city on one of the five clocks.
+    void StoreCity(std::size_t clock, CityIndex city);
+
 signals:
     /// Another city was chosen for one of the clocks.
     void CitiesChanged();
@@ -78,7 +81,6 @@ private:
     std::optional<std::size_t> ClockAt(const QPointF& point) const;
     void OpenMenu(std::size_t clock, const QPoint& globalPoint);
     void UseAsHome(std::size_t clock);
-    void StoreCity(std::size_t clock, CityIndex city);
     void MoveFocus(int columns, int rows);
     void NameFocusedClock();
 

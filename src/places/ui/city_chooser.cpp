@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "places/text_ids.h"
+#include "places/ui/city_row_delegate.h"
 #include "shell/control_ids.h"
 #include "shell/text_ids.h"
 #include "uikit/qt_text.h"
@@ -14,7 +15,13 @@ namespace rlx {
 
 CCityChooser::CCityChooser(CCityDatabase& cities, CCityTimes& times, const CResources& resources, ClockForm form,
                            const QString& title, CityIndex current, QWidget* parent)
-    : CTemplateDialog(resources.Dialog(kDialogChooseCity).value_or(DialogTemplate{}), parent),
+    : CCityChooser(kDialogChooseCity, cities, times, resources, form, current, parent) {
+    setWindowTitle(title);
+}
+
+CCityChooser::CCityChooser(int dialog, CCityDatabase& cities, CCityTimes& times, const CResources& resources,
+                           ClockForm form, CityIndex current, QWidget* parent)
+    : CTemplateDialog(resources.Dialog(dialog).value_or(DialogTemplate{}), parent),
       m_search(cities),
       m_model(cities, times, resources, form),
       m_field(Control<QLineEdit>(kControlCitySearch)),
@@ -22,7 +29,6 @@ CCityChooser::CCityChooser(CCityDatabase& cities, CCityTimes& times, const CReso
       m_nothing(new QLabel(ToQString(resources.Text(kTextNothingFound)), m_list)),
       m_current(current) {
     setObjectName("cityChooser");
-    setWindowTitle(title);
     resize(420, 520);
     if (m_field == nullptr || m_list == nullptr) return;
     SetUpList();
@@ -30,12 +36,13 @@ CCityChooser::CCityChooser(CCityDatabase& cities, CCityTimes& times, const CReso
     m_field->installEventFilter(this);
     m_field->setFocus();
     connect(m_field, &QLineEdit::textChanged, this, &CCityChooser::Search);
-    connect(m_list, &QTreeView::doubleClicked, this, &QDialog::accept);
+    connect(m_list, &QTreeView::doubleClicked, this, [this] { Activated(); });
     Search();
 }
 
 void CCityChooser::SetUpList() {
     m_list->setModel(&m_model);
+    m_list->setItemDelegate(new CCityRowDelegate(m_list));
     m_list->setHeaderHidden(true);
     m_list->setIndentation(8);
     m_list->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -58,7 +65,19 @@ void CCityChooser::Search() {
     m_nothing->setVisible(m_model.rowCount() == 0);
     const bool all = m_field->text().trimmed().isEmpty();
     Select(all ? m_model.RowOf(m_current).value_or(0) : 0);
+    ListChanged();
+}
+
+void CCityChooser::ListChanged() {
     if (auto* ok = Control<QPushButton>(kControlOk)) ok->setEnabled(m_model.rowCount() > 0);
+}
+
+void CCityChooser::Reload(std::optional<CityIndex> current) {
+    if (m_field == nullptr || m_list == nullptr) return;
+    m_search.Forget();
+    m_current = current.value_or(Selected().value_or(0));
+    Search();
+    if (const auto row = current ? m_model.RowOf(*current) : std::nullopt) Select(*row);
 }
 
 void CCityChooser::Select(int row) {

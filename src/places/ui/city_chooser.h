@@ -26,6 +26,19 @@ public:
     std::optional<CityIndex> Selected() const;
 
 protected:
+    /// The same with another template that has the field and the list, under the template's own title.
+    CCityChooser(int dialog, CCityDatabase& cities, CCityTimes& times, const CResources& resources, ClockForm form,
+                 CityIndex current, QWidget* parent);
+
+    /// A row was double-clicked.
+    virtual void Activated() { accept(); }
+
+    /// Other rows are shown.
+    virtual void ListChanged();
+
+    /// Reads the cities anew and selects one.
+    void Reload(std::optional<CityIndex> current);
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -38,7 +51,7 @@ private:
     QLineEdit* m_field;
     QTreeView* m_list;
     QLabel* m_nothing;
-    const CityIndex m_current;
+    CityIndex m_current;
 };
 
 }  // namespace rlx

@@ -10,8 +10,9 @@
 
 namespace rlx {
 
-/// Cities as rows of a list: the place, and the time that its clock shows now. A row is read when it is seen, so that a
-/// long list costs nothing. References must outlive the model. User-interface thread.
+/// Cities as rows of a list: name and country, and the time that its clock shows now with its day and distance as seen
+/// from home. A row is read when it is seen, so that a long list costs nothing. References must outlive the model.
+/// User-interface thread.
 class CCityListModel : public QAbstractTableModel {
     Q_OBJECT
 
@@ -33,12 +34,14 @@ public:
 
 private:
     QString TextOf(CityIndex city, int column) const;
+    QString WordsOf(CityIndex city) const;
 
     CCityDatabase& m_cities;
     CCityTimes& m_times;
     const ITexts& m_texts;
     const ClockForm m_form;
     const DateTime m_now;
+    const ClockReading m_home;
     std::vector<CityIndex> m_rows;
 };
 

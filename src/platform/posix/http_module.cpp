@@ -1,6 +1,6 @@
 #include "platform/posix/http_module.h"
 
-#include <dlfcn.h>
+#include "platform/posix/program_module.h"
 
 namespace rlx {
 
@@ -12,16 +12,10 @@ constexpr char kEntry[] = "RlxMakeHttpSession";
 }  // namespace
 
 bool CHttpModule::Load() {
-    for (const std::filesystem::path& folder : {m_programFolder, m_programFolder.parent_path() / "lib" / "roamlytix"}) {
-        void* module = dlopen((folder / kModule).c_str(), RTLD_NOW | RTLD_LOCAL);
-        if (module == nullptr) continue;
-        using Make = IHttpSession* (*)();
-        const auto make = reinterpret_cast<Make>(dlsym(module, kEntry));
-        if (make == nullptr) continue;
-        m_session.reset(make());
-        return true;
-    }
-    return false;
+    using Make = IHttpSession* (*)();
+    const auto make = reinterpret_cast<Make>(LoadProgramModule(m_programFolder, kModule, kEntry));
+    if (make != nullptr) m_session.reset(make());
+    return m_session != nullptr;
 }
 
 HttpAnswer CHttpModule::Post(const HttpPost& post, IHttpObserver* observer) {

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/sqlite/device_store_parts.h"
+#include "platform/sqlite/schema.h"
 #include "platform/sqlite/store_opener.h"
 
 namespace rlx {
@@ -17,6 +18,10 @@ IRegistry& CDeviceStore::Registry() {
 
 IObjectStore& CDeviceStore::Objects() {
     return m_parts->objects;
+}
+
+bool CDeviceStore::IsSound() {
+    return rlx::IsSound(m_parts->connection);
 }
 
 OpenedStore OpenDeviceStore(const std::filesystem::path& file, const IClock& clock) {

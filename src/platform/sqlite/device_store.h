@@ -22,6 +22,9 @@ public:
     IRegistry& Registry();
     IObjectStore& Objects();
 
+    /// Reads the whole file and compares what must agree in it; takes a while.
+    bool IsSound();
+
 private:
     friend class CStoreOpener;
     class CParts;

@@ -67,6 +67,20 @@ std::optional<Record> CSqliteRecordDatabase::Read(RecordId record) {
     return DecodeRecord(statement.Bytes(0));
 }
 
+std::vector<std::u16string> CSqliteRecordDatabase::Texts(PropertyId sortProperty) {
+    const CRecordIndex* index = Index(sortProperty);
+    if (index == nullptr) return {};
+    std::vector<std::u16string> texts(index->Count());
+    CStatement statement = m_connection.Prepare("SELECT id, properties FROM record WHERE database = ? ORDER BY id");
+    statement.Bind(1, m_state.number);
+    while (statement.NextRow()) {
+        // A record that another process added meanwhile has no place yet.
+        const auto position = index->PositionOf(statement.Integer(0));
+        if (position) texts[*position] = DecodeText(EncodedProperty(statement.Bytes(1), sortProperty));
+    }
+    return texts;
+}
+
 std::optional<RecordId> CSqliteRecordDatabase::Add(const Record& record) {
     if (!IsRecord(record)) return std::nullopt;
     const std::string properties = EncodeRecord(record);

@@ -26,6 +26,7 @@ public:
     std::optional<RecordId> SeekValue(PropertyId sortProperty, std::u16string_view value) override;
     std::optional<std::size_t> PositionOf(PropertyId sortProperty, RecordId record) override;
     std::optional<Record> Read(RecordId record) override;
+    std::vector<std::u16string> Texts(PropertyId sortProperty) override;
     std::optional<RecordId> Add(const Record& record) override;
     bool Overwrite(RecordId record, const Record& properties) override;
     bool Delete(RecordId record) override;

@@ -29,12 +29,12 @@ TEST_F(CityChooserDialog, FollowsWhatIsTyped) {
     EXPECT_EQ(list->model()->rowCount(), 5);
     QTest::keyClicks(field, "yo");
     EXPECT_EQ(list->model()->rowCount(), 2);
-    EXPECT_EQ(Top(), "New York, United States");
-    EXPECT_EQ(list->model()->index(0, CCityListModel::kTime).data().toString(), "15:10");
+    EXPECT_EQ(Top(), "New York\nUnited States");
+    EXPECT_EQ(list->model()->index(0, CCityListModel::kTime).data().toString(), "15:10\n-6:00");
     QTest::keyClick(field, Qt::Key_Down);
     EXPECT_EQ(chooser.Selected(), 4U);
     field->setText("japan");
-    EXPECT_EQ(Top(), "Tokyo, Japan");
+    EXPECT_EQ(Top(), "Tokyo\nJapan");
 }
 
 TEST_F(CityChooserDialog, SaysWhenNothingFits) {

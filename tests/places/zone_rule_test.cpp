@@ -1,0 +1,102 @@
+#include "places/zone_rule.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iostream>
+#include <map>
+
+#include "base/text.h"
+#include "places/city_list.h"
+#include "places/rules_date.h"
+#include "platform/cctz/cctz_time_zones.h"
+#include "platform/fake/fixed_time_zones.h"
+#include "platform/posix/posix_file_system.h"
+#include "support/paths.h"
+
+namespace rlx {
+namespace {
+
+std::string Text(const std::optional<RuleFields>& rule) {
+    if (!rule) return "nothing";
+    std::string text = Narrow(rule->gmt);
+    for (const auto& field : rule->dst)
+        text += ";" + Narrow(field);
+    return text;
+}
+
+TEST(ZoneRule, IsTheOneThatFitsTheYearBest) {
+    const auto utc = [](int month, int day, int hour, int minute = 0) {
+        return SecondNumber({{2026, month, day}, hour, minute, 0, 0});
+    };
+    constexpr int kHour = 3600;
+    using Offsets = std::vector<OffsetChange>;
+    const Offsets paris{
+        {0, kHour}, {utc(3, 29, 1), 2 * kHour}, {utc(10, 25, 1), kHour}, {utc(12, 31, 0) + 88 * 86400, 0}};
+    const struct {
+        const char* name;
+        Offsets offsets;
+        Date day;
+        const char* rule;
+    } rows[] = {
+        {"never", {{0, 19800}}, {2026, 6, 1}, "530;0;0;0;0;0"},
+        {"west with minutes", {{0, -12600}}, {2026, 6, 1}, "-330;0;0;0;0;0"},
+        {"northern", paris, {2026, 6, 1}, "1;1;88;2;298;3"},
+        {"southern",
+         {{0, 11 * kHour}, {utc(4, 4, 16), 10 * kHour}, {utc(10, 3, 16), 11 * kHour}},
+         {2026, 1, 1},
+         "10;1;277;2;95;3"},
+        {"for good from March on, asked in January",
+         {{0, -8 * kHour}, {utc(3, 8, 10), -7 * kHour}},
+         {2026, 1, 1},
+         "-8;1;67;2;1;0"},
+        {"for good from March on, asked in June",
+         {{0, -8 * kHour}, {utc(3, 8, 10), -7 * kHour}},
+         {2026, 6, 1},
+         "-7;0;0;0;0;0"},
+        {"half an hour cannot be said",
+         {{0, 39600}, {utc(4, 4, 15), 37800}, {utc(10, 3, 15, 30), 39600}},
+         {2026, 1, 1},
+         "11;0;0;0;0;0"},
+        {"changes at quarters are written as hours",
+         {{0, 49500}, {utc(4, 4, 14), 45900}, {utc(9, 26, 14), 49500}},
+         {2026, 1, 1},
+         "1245;1;270;3;95;4"},
+        {"twenty minutes cannot be written", {{0, 1200}}, {2026, 1, 1}, "nothing"},
+    };
+    CFixedTimeZones zones;
+    for (const auto& row : rows) {
+        zones.zones["Z"] = row.offsets;
+        EXPECT_EQ(Text(RuleOfZone(zones, "Z", row.day)), row.rule) << row.name;
+    }
+    EXPECT_EQ(Text(RuleOfZone(zones, "Y", {2026, 1, 1})), "nothing");
+}
+
+/// The system's tz database may be of another year than the one that the shipped list was made from.
+TEST(ZoneRule, AgreesWithTheShippedList) {
+    CPosixFileSystem files;
+    const auto list = ReadCityList(files, std::filesystem::path(test::kDataDir) / "cities.lst");
+    const auto day = ReadRulesDate(files, test::kDataDir);
+    ASSERT_TRUE(list && day);
+    CCctzTimeZones zones;
+    std::map<std::u16string, bool> agrees;
+    for (const CityFields& city : list->cities) {
+        const auto rule = RuleOfZone(zones, ToUtf8(city.zone), *day);
+        const bool same = rule && rule->gmt == city.gmt && rule->dst == city.dst;
+        const auto [entry, isNew] = agrees.emplace(city.zone, same);
+        if (isNew && !same) std::cout << ToUtf8(city.zone) << " differs: " << Text(rule) << '\n';
+    }
+    const auto same = std::count_if(agrees.begin(), agrees.end(), [](const auto& zone) { return zone.second; });
+    EXPECT_GT(agrees.size(), 300U);
+    EXPECT_GE(static_cast<std::size_t>(same) * 100, agrees.size() * 95);
+}
+
+TEST(TimeZones, StayWithinTheFolderOfZones) {
+    CCctzTimeZones zones;
+    for (const char* name : {"", "No/Such", "/etc/localtime", "../zoneinfo/UTC", "Europe/Paris\n", "Europe"})
+        EXPECT_FALSE(zones.Offsets(name, 0, 1)) << name;
+    EXPECT_TRUE(zones.Offsets("Europe/Paris", 0, 1));
+}
+
+}  // namespace
+}  // namespace rlx
