@@ -14,6 +14,7 @@ install(TARGETS rlx_http LIBRARY DESTINATION lib/roamlytix)
 install(DIRECTORY data/ DESTINATION ${RLX_DATA} PATTERN make EXCLUDE PATTERN icons EXCLUDE)
 # Language modules, as far as there are any.
 install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/LangsRes DESTINATION ${RLX_DATA} OPTIONAL)
+install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/translate DESTINATION ${CMAKE_INSTALL_DOCDIR})
 
 configure_file(${RLX_PACKAGING}/${RLX_APP_ID}.metainfo.xml.in packaging/${RLX_APP_ID}.metainfo.xml @ONLY)
 configure_file(${RLX_PACKAGING}/systemd/roamlytix-feedd.service.in packaging/roamlytix-feedd.service @ONLY)

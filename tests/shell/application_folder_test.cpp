@@ -70,6 +70,7 @@ struct Installed : public testing::Test {
     Installed() {
         files.files = {{"/usr/bin/rlx", ""},
                        {"/usr/share/roamlytix/cities.lst", "new cities"},
+                       {"/usr/share/roamlytix/LangsRes/RoamlyFrench.dll", "module"},
                        {"/usr/share/roamlytix/skins/Night/Night.skn", "night"}};
         files.readOnly = {"/usr/bin", "/usr/share/roamlytix"};
         files.folders = {"/home/u"};
@@ -83,6 +84,7 @@ TEST_F(Installed, UserCopyIsFilledWithWhatItLacks) {
     EXPECT_EQ(PrepareApplicationFolder(files, sources), "/home/u/roamlytix");
     EXPECT_EQ(files.files["/home/u/roamlytix/cities.lst"], "edited cities");
     EXPECT_EQ(files.files["/home/u/roamlytix/skins/Night/Night.skn"], "night");
+    EXPECT_EQ(files.files["/home/u/roamlytix/LangsRes/RoamlyFrench.dll"], "module");
     EXPECT_FALSE(files.files.contains("/home/u/roamlytix/rlx"));
 }
 

@@ -52,7 +52,9 @@ constexpr const char* kShowData[] = {
     "control_1012",
     "control_1200",  // names of languages, modules and skins
     "control_1010",
-    "control_1201",  // paths of folders
+    "control_1201",
+    "control_1390",
+    "control_1391",  // paths of folders
     "control_1220",  // the number of a colour
     "control_1051",  // units to edit
     "control_1080",  // the credits, a file in English

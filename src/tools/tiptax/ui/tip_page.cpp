@@ -92,6 +92,7 @@ void CTipPage::AddRow(int row, int textId, QWidget* field, QLayout* fields) {
     auto* label = new QLabel(ToQString(m_texts.Text(textId)), m_card);
     label->setBuddy(field);
     label->setMinimumWidth(kLeastLabel);
+    label->setToolTip(label->text());
     if (qobject_cast<QLabel*>(field) == nullptr) field->setAccessibleName(label->text());
     line->addWidget(label);
     if (fields != nullptr) {

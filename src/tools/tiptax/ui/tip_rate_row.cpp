@@ -27,6 +27,7 @@ CTipRateRow::CTipRateRow(const QString& name, const QString& label, const ITexts
     auto* caption = new QLabel(label, parent);
     caption->setBuddy(m_rate);
     caption->setMinimumWidth(kLeastCaption);
+    caption->setToolTip(label);
     m_rate->setAccessibleName(label);
     m_added->setAccessibleName(label + " " + m_added->text());
     m_amount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
