@@ -10,6 +10,7 @@
 #include "app/screenshots.h"
 #include "base/text.h"
 #include "shell/fill_text.h"
+#include "uikit/enter_presses.h"
 #include "uikit/qt_text.h"
 #include "uikit/window_style.h"
 
@@ -108,6 +109,8 @@ int main(int count, char** words) {
     }
     QApplication::setStyle(new rlx::CWindowStyle);
     QApplication qt(count, words);
+    rlx::CEnterPresses enter;
+    qt.installEventFilter(&enter);
     QApplication::setApplicationName("roamlytix");
     QApplication::setApplicationVersion(RLX_VERSION);
     QCommandLineParser parser;
