@@ -22,8 +22,13 @@ function(rlx_resource_ids)
     add_custom_target(resource_ids DEPENDS ${RLX_RESOURCE_IDS})
 endfunction()
 
-# rlx_resource_image(French out.dll): the rule that compiles French.rc of the current folder into out.dll.
+# rlx_resource_image(French out.dll [file.rc]): the rule that compiles French.rc of the current folder, or the file that is
+# named, into out.dll.
 function(rlx_resource_image name output)
+    set(source ${CMAKE_CURRENT_SOURCE_DIR}/${name}.rc)
+    if(ARGC GREATER 2)
+        set(source ${ARGV2})
+    endif()
     cmake_path(GET RLX_RESOURCE_IDS PARENT_PATH ids)
     set(object ${CMAKE_CURRENT_BINARY_DIR}/${name}.o)
     cmake_path(GET output PARENT_PATH folder)
@@ -31,11 +36,11 @@ function(rlx_resource_image name output)
         OUTPUT ${output}
         COMMAND ${RLX_WINDRES} -c 65001 --preprocessor=${CMAKE_C_COMPILER} --preprocessor-arg=-E
                 --preprocessor-arg=-xc --preprocessor-arg=-DRC_INVOKED -I ${ids} -I ${CMAKE_SOURCE_DIR}/resources
-                ${CMAKE_CURRENT_SOURCE_DIR}/${name}.rc ${object}
+                ${source} ${object}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}
         COMMAND ${RLX_PE_LD} --dll --no-insert-timestamp -s -e 0 -o ${output} ${object}
         BYPRODUCTS ${object}
-        DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${name}.rc ${CMAKE_SOURCE_DIR}/resources/styles.h
+        DEPENDS ${source} ${CMAKE_SOURCE_DIR}/resources/styles.h
                 ${RLX_RESOURCE_IDS} resource_ids
         COMMENT "Compiling the resources of ${name}" VERBATIM)
 endfunction()
@@ -44,4 +49,16 @@ function(rlx_language name)
     set(module ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/LangsRes/Roamly${name}.dll)
     rlx_resource_image(${name} ${module})
     add_custom_target(language_${name} ALL DEPENDS ${module})
+endfunction()
+
+# What a translator starts from, beside the programs (docs/guide/translating.md).
+function(rlx_translators_kit)
+    set(kit ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/translate)
+    set(files ${CMAKE_SOURCE_DIR}/resources/English.rc ${CMAKE_SOURCE_DIR}/resources/styles.h ${RLX_RESOURCE_IDS})
+    add_custom_command(
+        OUTPUT ${kit}/ids.h ${kit}/English.rc ${kit}/styles.h
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${kit}
+        COMMAND ${CMAKE_COMMAND} -E copy ${files} ${kit}
+        DEPENDS ${files} VERBATIM)
+    add_custom_target(translators_kit ALL DEPENDS ${kit}/ids.h)
 endfunction()

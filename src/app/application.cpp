@@ -16,6 +16,7 @@
 #include "shell/setting_names.h"
 #include "shell/store_message.h"
 #include "shell/text_ids.h"
+#include "today/ui/today_dialog.h"
 #include "tools/clothing/ui/clothing_tool.h"
 #include "tools/converter/ui/converter_tool.h"
 #include "tools/dialing/ui/dialing_tool.h"
@@ -41,6 +42,8 @@ CApplication::CApplication(const WindowOptions& options)
       m_look(m_files, m_codec) {
     OpenStore();
     OpenFolder();
+    if (!StartLanguage()) return;
+    OpenCities();
     m_window = std::make_unique<CMainWindow>(m_clock, m_resources);
     m_windowBoxes.SetOwner(m_window.get());
     m_skins = std::make_unique<CSkinCommands>(SkinPorts{m_files, m_codec, m_resources, m_boxes}, m_folder->Root(),
@@ -72,6 +75,17 @@ void CApplication::OpenFolder() {
                       BoxIcon::kExclamation, BoxButtons::kOk});
     }
     m_folder.emplace(m_files, folder.value_or(sources.executableFolder));
+}
+
+/// Without a display there is nobody to ask.
+bool CApplication::StartLanguage() {
+    const bool seen = QGuiApplication::platformName() != "offscreen" && QGuiApplication::platformName() != "minimal";
+    const LanguagePorts ports{m_files, *m_folder, m_resources, m_boxes};
+    m_languages.emplace(ports, *m_settings, seen && !m_options.quiet);
+    return m_languages->Start(m_resources);
+}
+
+void CApplication::OpenCities() {
     const auto cityFile = m_folder->Path(u"\\cities.lst").value_or(m_folder->Root() / "cities.lst");
     m_cities.emplace(m_store->Objects(), m_files, m_boxes, m_resources, cityFile);
     m_cities->EnsureCreated();
@@ -166,6 +180,10 @@ void CApplication::MakeCommands() {
     m_commands.Add(kCommandOwnerName, this, [this] { m_feeds->AskOwnerName(); });
     m_commands.Add(kCommandChooseSkin, this, [this] { m_skins->Choose(); });
     m_commands.Add(kCommandEditSkin, this, [this] { m_skins->Edit(); });
+    m_commands.Add(kCommandTodayOptions, this,
+                   [this] { CTodayDialog(*m_settings, m_resources, m_window.get()).exec(); });
+    m_commands.Add(kCommandLanguage, this, [this] { m_languages->Choose(m_window.get()); });
+    m_commands.Add(kCommandInstallLanguages, this, [this] { m_languages->Install(m_window.get()); });
     m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });
     m_commands.Add(kCommandAbout, this, [this] { ShowAbout(); });
     m_commands.Add(kCommandExit, this, [this] { m_window->close(); })->setShortcut(QKeySequence::Quit);

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/feed_wiring.h"
+#include "app/language_commands.h"
 #include "app/main_window.h"
 #include "app/silent_message_boxes.h"
 #include "app/skin_commands.h"
@@ -47,6 +48,9 @@ public:
     explicit CApplication(const WindowOptions& options);
     ~CApplication() override;
 
+    /// False when the language could not be loaded: there is no window and the run is to end.
+    bool HasWindow() const { return m_window != nullptr; }
+
     /// Shows the window on the screen that was shown last.
     void Show();
 
@@ -55,6 +59,8 @@ public:
 private:
     void OpenStore();
     void OpenFolder();
+    bool StartLanguage();
+    void OpenCities();
     void MakeScreens();
     void MakeTools();
     void MakeWeather();
@@ -84,6 +90,7 @@ private:
     std::unique_ptr<CDeviceStore> m_store;
     std::optional<CRegistryStore> m_settings;
     std::optional<CApplicationFolder> m_folder;
+    std::optional<CLanguageCommands> m_languages;
     std::optional<CCityDatabase> m_cities;
     std::optional<CWeatherStore> m_weather;
     CCommandTable m_commands;

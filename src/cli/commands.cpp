@@ -25,6 +25,7 @@ std::span<const Command> Commands() {
         Command{"units", "units of the converter: list, add, delete", DeclareUnits},
         Command{"dial", "dialing and area codes", DeclareDial},
         Command{"sizes", "clothing sizes of other countries", DeclareSizes},
+        Command{"today", "a summary for a status bar, and what it shows", DeclareToday},
         Command{"credits", "where the data comes from", DeclareCredits},
     };
     return kCommands;

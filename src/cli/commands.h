@@ -28,6 +28,7 @@ void DeclareConvert(CLI::App& app, const SetAction& setAction);
 void DeclareUnits(CLI::App& app, const SetAction& setAction);
 void DeclareDial(CLI::App& app, const SetAction& setAction);
 void DeclareSizes(CLI::App& app, const SetAction& setAction);
+void DeclareToday(CLI::App& app, const SetAction& setAction);
 void DeclareCredits(CLI::App& app, const SetAction& setAction);
 
 }  // namespace rlx::cli

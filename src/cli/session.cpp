@@ -9,7 +9,9 @@
 #include "platform/posix/frozen_clock.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/system_clock.h"
+#include "shell/boxes.h"
 #include "shell/fill_text.h"
+#include "shell/language_start.h"
 #include "shell/program_paths.h"
 #include "shell/store_message.h"
 #include "shell/text_ids.h"
@@ -44,6 +46,7 @@ struct CSession::Parts {
 CSession::CSession(GlobalOptions options)
     : m_options(std::move(options)),
       m_boxes(m_options.answer, m_options.json),
+      m_texts([this] { return LoadLanguage(); }),
       m_parts(std::make_unique<Parts>(m_options)) {}
 
 CSession::~CSession() = default;
@@ -76,9 +79,26 @@ CDeviceStore& CSession::Store() {
         OpenedStore opened = OpenDeviceStore(file, m_parts->clock);
         m_parts->store = std::move(opened.store);
         m_parts->outcome = opened.outcome;
-        if (const auto box = StoreMessage(opened.outcome, file, opened.movedAside, m_resources)) m_boxes.Show(*box);
+        if (const auto box = StoreMessage(opened.outcome, file, opened.movedAside, m_texts)) m_boxes.Show(*box);
     }
     return *m_parts->store;
+}
+
+/// The setting alone is no reason to make a store.
+CResources CSession::LoadLanguage() {
+    std::error_code error;
+    if (!m_parts->store && !std::filesystem::exists(DeviceStoreFile(m_options.store), error)) return {};
+    const auto lang = LanguageSetting(Settings());
+    if (lang.value_or(0) == 0) return {};
+    LanguageStart start = StartLanguage(Files(), Folder(), lang);
+    if (start.state == LanguageState::kFailed) m_boxes.Show(ErrorBox(m_texts, m_texts.Text(kTextLanguageNotLoaded)));
+    if (start.state == LanguageState::kModule) m_languageModule = start.module;
+    return std::move(start.resources);
+}
+
+const std::u16string& CSession::LanguageModule() {
+    m_texts.Text(kTextLanguage);
+    return m_languageModule;
 }
 
 IRegistry& CSession::Registry() {
@@ -116,23 +136,23 @@ CCityDatabase& CSession::Cities() {
 CCityDatabase& CSession::CitiesAsTheyAre() {
     if (!m_parts->cities) {
         const auto file = Folder().Path(u"\\cities.lst").value_or(Folder().Root() / "cities.lst");
-        m_parts->cities.emplace(ObjectStore(), m_parts->files, m_boxes, m_resources, file);
+        m_parts->cities.emplace(ObjectStore(), m_parts->files, m_boxes, m_texts, file);
     }
     return *m_parts->cities;
 }
 
 CCityTimes& CSession::Times() {
-    if (!m_parts->times) m_parts->times.emplace(Cities(), m_parts->clock, m_resources, ClockChoices());
+    if (!m_parts->times) m_parts->times.emplace(Cities(), m_parts->clock, m_texts, ClockChoices());
     return *m_parts->times;
 }
 
 int CSession::Fail(const std::u16string& text) {
-    m_boxes.Show({m_resources.Text(kTextError), text, BoxIcon::kExclamation, BoxButtons::kOk});
+    m_boxes.Show({m_texts.Text(kTextError), text, BoxIcon::kExclamation, BoxButtons::kOk});
     return kFailedStatus;
 }
 
 std::u16string CSession::Text(int id, const std::u16string& first, const std::u16string& second) const {
-    return FillText(m_resources.Text(id), {first, second});
+    return FillText(m_texts.Text(id), {first, second});
 }
 
 std::optional<CityIndex> FindCity(CSession& session, const std::string& word) {

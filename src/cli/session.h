@@ -7,6 +7,7 @@
 
 #include "cli/console_message_boxes.h"
 #include "cli/options.h"
+#include "cli/session_texts.h"
 #include "places/city_database.h"
 #include "places/city_times.h"
 #include "platform/clock.h"
@@ -17,7 +18,6 @@
 #include "shell/application_folder.h"
 #include "shell/clock_settings.h"
 #include "shell/registry_store.h"
-#include "shell/resources.h"
 
 namespace rlx::cli {
 
@@ -29,7 +29,10 @@ public:
 
     const GlobalOptions& Options() const { return m_options; }
     CConsoleMessageBoxes& Boxes() { return m_boxes; }
-    const CResources& Texts() const { return m_resources; }
+    const ITexts& Texts() const { return m_texts; }
+
+    /// The file name of the language module in force; empty for the built-in texts.
+    const std::u16string& LanguageModule();
 
     IFileSystem& Files();
     const IClock& Clock();
@@ -60,10 +63,12 @@ private:
     struct Parts;
 
     CDeviceStore& Store();
+    CResources LoadLanguage();
 
     GlobalOptions m_options;
     CConsoleMessageBoxes m_boxes;
-    CResources m_resources;
+    CSessionTexts m_texts;
+    std::u16string m_languageModule;
     std::unique_ptr<Parts> m_parts;
 };
 

@@ -61,8 +61,6 @@ inline constexpr TextId kTextSameAsHome = 40169;
 inline constexpr TextId kTextChooseHomeCity = 40170;
 inline constexpr TextId kTextChooseClockCity = 40171;
 inline constexpr TextId kTextCitySearchHint = 40172;
-inline constexpr TextId kTextSunDetails = 40173;
-inline constexpr TextId kTextAskSunDetails = 40174;
 inline constexpr TextId kTextRulesOutdated = 40175;
 inline constexpr TextId kTextCityGone = 40176;
 

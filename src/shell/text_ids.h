@@ -20,12 +20,8 @@ inline constexpr TextId kTextOk = 40010;
 inline constexpr TextId kTextCancel = 40011;
 inline constexpr TextId kTextYes = 40012;
 inline constexpr TextId kTextNo = 40013;
-inline constexpr TextId kTextClose = 40014;
-inline constexpr TextId kTextSave = 40015;
-inline constexpr TextId kTextBack = 40016;
 inline constexpr TextId kTextAdd = 40017;
 inline constexpr TextId kTextDelete = 40018;
-inline constexpr TextId kTextEdit = 40019;
 inline constexpr TextId kTextUpdate = 40020;
 inline constexpr TextId kTextSearch = 40021;
 inline constexpr TextId kTextNothingFound = 40022;
@@ -42,8 +38,6 @@ inline constexpr TextId kTextStoreReadOnly = 40039;
 inline constexpr TextId kTextStoreNewer = 40041;
 inline constexpr TextId kTextStoreForeign = 40042;
 inline constexpr TextId kTextFolderNotReady = 40044;
-inline constexpr TextId kTextPicturesWritten = 40045;
-inline constexpr TextId kTextFolderNotMade = 40046;
 
 inline constexpr TextId kTextAm = 40200;
 inline constexpr TextId kTextPm = 40201;
@@ -67,5 +61,13 @@ inline constexpr TextId kTextNotALanguageModule = 41404;
 inline constexpr TextId kTextLanguageInstalled = 41405;
 inline constexpr TextId kTextNoModulesInFolder = 41406;
 inline constexpr TextId kTextChooseModuleFolder = 41407;
+inline constexpr TextId kTextBuiltInLanguage = 41410;
+inline constexpr TextId kTextLanguageIsInstalled = 41411;
+inline constexpr TextId kTextModuleNameRefused = 41412;
+inline constexpr TextId kTextLanguageListFull = 41413;
+inline constexpr TextId kTextModuleNotInstalled = 41414;
+inline constexpr TextId kTextModuleNotRemovable = 41415;
+inline constexpr TextId kTextModuleNotRemoved = 41416;
+inline constexpr TextId kTextNoSuchLanguage = 41417;
 
 }  // namespace rlx

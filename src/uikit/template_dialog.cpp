@@ -23,7 +23,7 @@ namespace rlx {
 
 namespace {
 
-/// Below this width or height a dialog takes the whole screen of its window.
+/// Below this width or height a dialog takes the whole of its window, or of the screen where there is none.
 constexpr int kSmallScreen = 400;
 
 constexpr int kLeastWidth = 300;  // elsewhere, so that titles can be read
@@ -179,10 +179,11 @@ void CTemplateDialog::ConnectButtons() {
 void CTemplateDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     const QWidget* window = parentWidget() != nullptr ? parentWidget()->window() : nullptr;
-    if (window != nullptr && (window->width() < kSmallScreen || window->height() < kSmallScreen)) {
-        setGeometry(window->geometry());
+    const QRect room = window != nullptr ? window->geometry() : screen()->availableGeometry();
+    if (room.width() < kSmallScreen || room.height() < kSmallScreen) {
+        setGeometry(room);
         // A title bar would push the buttons off a screen that the window has for itself.
-        if (window->isFullScreen()) setWindowState(windowState() | Qt::WindowFullScreen);
+        if (window != nullptr && window->isFullScreen()) setWindowState(windowState() | Qt::WindowFullScreen);
     } else if (width() < kLeastWidth) {
         resize(kLeastWidth, height());
     }

@@ -113,7 +113,9 @@ class OtherFiles(unittest.TestCase):
 
     def test_one_line_files(self):
         self.assertEqual((DATA / "adrs.cfg").read_bytes(), b"http://127.0.0.1:8765/feed*")
-        self.assertEqual((DATA / "langs.dat").read_bytes(), b"0,English,none@>")
+        names = ["French", "German", "Spanish", "Italian", "Portuguese", "Japanese"]
+        modules = "".join(f"{i},{name},Roamly{name}.dll@" for i, name in enumerate(names, 1))
+        self.assertEqual((DATA / "langs.dat").read_text("ascii"), f"0,English,none@{modules}>")
 
 
 if __name__ == "__main__":

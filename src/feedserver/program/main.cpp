@@ -51,10 +51,16 @@ bool HasGivenSocket() {
     return pid != nullptr && count != nullptr && std::to_string(getpid()) == pid && std::string_view(count) == "1";
 }
 
+/// Beside the program, else where an installation keeps the data of all three programs.
 std::filesystem::path OwnFolder() {
     std::error_code error;
     const std::filesystem::path self = std::filesystem::read_symlink("/proc/self/exe", error);
-    return error ? std::filesystem::path(".") : self.parent_path();
+    if (error) return ".";
+    const std::filesystem::path beside = self.parent_path();
+    const std::filesystem::path installed = beside.parent_path() / "share" / "roamlytix";
+    return !std::filesystem::exists(beside / "cities.lst", error) && std::filesystem::is_directory(installed, error)
+               ? installed
+               : beside;
 }
 
 /// Refreshes until somebody asks the program to end.

@@ -17,6 +17,7 @@
 namespace {
 
 constexpr const char* kUsualSizes = "240x320,320x240,480x640,1280x800";
+constexpr int kLanguageNotLoaded = 1;
 constexpr int kWrongUsage = 2;
 
 bool HasWord(int count, char** words, const char* word) {
@@ -113,6 +114,7 @@ int main(int count, char** words) {
     qt.installEventFilter(&enter);
     QApplication::setApplicationName("roamlytix");
     QApplication::setApplicationVersion(RLX_VERSION);
+    QGuiApplication::setDesktopFileName("org.roamlytix.Roamlytix");
     QCommandLineParser parser;
     Declare(parser);
     parser.process(qt);
@@ -121,6 +123,7 @@ int main(int count, char** words) {
     if (!line) return Complain("\"" + wrong + "\" is not understood; see --help");
     if (!line->screenshots.isEmpty()) return WritePictures(*line);
     rlx::CApplication application(line->window);
+    if (!application.HasWindow()) return kLanguageNotLoaded;
     application.Show();
     return QApplication::exec();
 }

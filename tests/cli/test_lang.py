@@ -1,0 +1,108 @@
+#!/usr/bin/env python3
+"""`rlx lang` from outside: the list, installing, choosing, and what a chosen language does to other answers."""
+
+import os
+import pathlib
+import shutil
+import unittest
+
+from rlx_program import RLX, RlxTest
+
+MODULE = pathlib.Path(RLX).resolve().parents[1] / "test_modules" / "RoamlyPseudo.dll"
+ENGLISH = {"index": 0, "name": "English", "module": "none"}
+PSEUDO = {"index": 1, "name": "Pseudo", "module": "RoamlyPseudo.dll"}
+RESTART = "Please restart Application for new language validation"
+NOT_LOADED = "Error. Could not load Language Module\n\nPlease select another language and restart Application"
+
+
+class Lang(RlxTest):
+    def setUp(self):
+        super().setUp()
+        self.list = self.home / "langs.dat"
+        self.list.write_bytes(b"0,English,none@>")
+        self.card = self.folder / "card"
+        self.card.mkdir()
+        shutil.copy(MODULE, self.card)
+
+    def install(self, *words, messages=("Pseudo is installed.",)):
+        return self.answer("lang", "install", self.card, "RoamlyPseudo.dll", *words, messages=messages)
+
+    def use(self, index):
+        self.answer("lang", "use", str(index), messages=[RESTART])
+
+    def test_install_use_and_back(self):
+        self.assertEqual(self.answer("lang", "list"), {"languages": [ENGLISH]})
+        self.assertEqual(self.install(), {"languages": [ENGLISH, PSEUDO]})
+        self.assertEqual(self.list.read_bytes(), b"0,English,none@1,Pseudo,RoamlyPseudo.dll@>")
+        self.assertEqual((self.home / "LangsRes/RoamlyPseudo.dll").read_bytes(), MODULE.read_bytes())
+        self.use(1)
+        self.assertEqual(self.answer("settings", "get", "Roamlytix", "lang"), {"status": 0, "type": "dword", "value": 1})
+        self.assertEqual(self.answer("lang", "text", "32923"), {"text": "[Error!~~~]"})
+        self.assertEqual(self.answer("sizes", "[shoes", "men")["title"], "[Men's shoes ~~~~~~]")
+        self.answer("lang", "use", "0", messages=["[" + RESTART + " ~~~~~~" * 3 + " ~~~~~~]"])
+        self.assertEqual(self.answer("lang", "text", "32923"), {"text": "Error!"})
+
+    def test_move_takes_the_file_away(self):
+        self.install("--move")
+        self.assertEqual(os.listdir(self.card), [])
+
+    def test_module_folder_itself_is_only_listed(self):
+        (self.home / "LangsRes").mkdir()
+        self.card = self.home / "LangsRes"
+        shutil.copy(MODULE, self.card)
+        before = (self.card / "RoamlyPseudo.dll").stat()
+        self.card = self.home / "LangsRes" / ".." / "LangsRes"
+        self.install("--move")
+        after = (self.card / "RoamlyPseudo.dll").stat()
+        self.assertEqual((before.st_ino, before.st_mtime_ns), (after.st_ino, after.st_mtime_ns))
+
+    def test_refusals_change_nothing(self):
+        os.mkfifo(self.card / "RoamlyFifo.dll")
+        (self.card / "RoamlyFolder.dll").mkdir()
+        with open(self.card / "RoamlyHuge.dll", "wb") as huge:
+            huge.truncate(1 << 30)
+        (self.card / "RoamlyText.dll").write_text("no library")
+        (self.card / "RoamlyA,B.dll").write_bytes(MODULE.read_bytes())
+        (self.folder / "empty").mkdir()
+        rows = [
+            ("RoamlyFifo.dll", '"RoamlyFifo.dll" could not be read.'),
+            ("RoamlyFolder.dll", '"RoamlyFolder.dll" could not be read.'),
+            ("RoamlyHuge.dll", '"RoamlyHuge.dll" could not be read.'),
+            ("RoamlyGone.dll", '"RoamlyGone.dll" could not be read.'),
+            ("RoamlyText.dll", '"RoamlyText.dll" is not a language module.'),
+            ("RoamlyA,B.dll", '"RoamlyA,B.dll" cannot be installed: a module is called Roamly, the language, .dll,'
+             " without any of the characters , @ > \\ in its name."),
+        ]
+        for module, message in rows:
+            with self.subTest(module):
+                self.answer("lang", "install", self.card, module, "--move", status=1, messages=[message])
+                self.assertEqual(self.list.read_bytes(), b"0,English,none@>")
+                self.assertFalse((self.home / "LangsRes").exists())
+        missing = self.folder / "nowhere"
+        self.answer("lang", "install", missing, "RoamlyPseudo.dll", status=1,
+                    messages=[f'There is no folder "{missing}".'])
+        self.answer("lang", "use", "1", status=1, messages=["There is no language 1 in the list."])
+        self.assertEqual(self.answer("settings", "get", "Roamlytix", "lang")["status"], -2)
+
+    def test_full_list_is_told(self):
+        self.list.write_bytes(b"0,English,none@1," + b"x" * 1475 + b",none@>")
+        message = '"RoamlyPseudo.dll" was not installed: the list of languages would be longer than 1,499 characters.'
+        self.answer("lang", "install", self.card, "RoamlyPseudo.dll", status=1, messages=[message])
+        self.assertFalse((self.home / "LangsRes/RoamlyPseudo.dll").exists())
+
+    def test_module_that_is_gone_leaves_english(self):
+        self.install()
+        self.use(1)
+        (self.home / "LangsRes/RoamlyPseudo.dll").write_bytes(b"MZ")
+        self.assertEqual(self.answer("lang", "text", "32923", messages=[NOT_LOADED]), {"text": "Error!"})
+        done = self.run_rlx("sizes", "shoes", "men")
+        self.assertEqual((done.returncode, done.stderr.decode()), (0, f"[Error!] {NOT_LOADED}\n"))
+        self.answer("settings", "get", "Roamlytix", "lang")  # needs no text
+
+    def test_looking_makes_no_store(self):
+        self.answer("lang", "text", "32923")
+        self.assertFalse(self.store.exists())
+
+
+if __name__ == "__main__":
+    unittest.main()
