@@ -28,6 +28,8 @@ namespace {
 /// Below this width or height a dialog takes the whole of its window, or of the screen where there is none.
 constexpr int kSmallScreen = 400;
 
+constexpr int kLeastWidth = 300;  // elsewhere, so that titles can be read
+
 constexpr int kSelectorHeight = 12;  // template units
 
 /// Controls that share a row of the template, in reading order.
@@ -64,6 +66,14 @@ std::vector<Row> RowsOf(const DialogTemplate& dialog) {
 bool TakesRoom(const DialogControl& control) {
     return control.kind == ControlKind::kListBox || control.kind == ControlKind::kListView ||
            (control.kind == ControlKind::kEdit && control.multiline);
+}
+
+bool Stretches(const Row& row) {
+    return std::any_of(row.begin(), row.end(), [](const DialogControl* control) { return TakesRoom(*control); });
+}
+
+bool IsField(const DialogControl& control) {
+    return control.kind != ControlKind::kStatic && control.kind != ControlKind::kPushButton;
 }
 
 QWidget* MakeEdit(const DialogControl& control) {
@@ -148,28 +158,24 @@ void CTemplateDialog::LayOut(const DialogTemplate& dialog) {
     column->setContentsMargins(8, 8, 8, 8);
     column->setSpacing(6);
     const std::vector<Row> rows = RowsOf(dialog);
-    const auto stretching = [](const Row& row) {
-        return std::any_of(row.begin(), row.end(), [](const auto* control) { return TakesRoom(*control); });
-    };
-    const bool filled = std::any_of(rows.begin(), rows.end(), stretching);
+    const bool anyStretches = std::any_of(rows.begin(), rows.end(), Stretches);
+    QLabel* label = nullptr;
     for (const Row& row : rows) {
-        // Room that no list takes lies above the buttons, not around the labels.
-        if (!filled && &row == &rows.back()) column->addStretch(1);
+        // Room that nothing wants stands above the buttons.
+        if (!anyStretches && &row == &rows.back()) column->addStretch(1);
         auto* line = new QHBoxLayout;
         line->setSpacing(6);
-        QLabel* label = nullptr;
         for (const DialogControl* control : row) {
             QWidget* widget = MakeControl(*control);
             widget->setObjectName(QStringLiteral("control_%1").arg(control->id));
             widget->setEnabled(control->enabled);
-            // A label names the field behind it, on screen and for screen readers.
-            if (label != nullptr && label->buddy() == nullptr && control->kind != ControlKind::kStatic)
-                label->setBuddy(widget);
+            // A label names the field behind or below it, on screen and for screen readers.
+            if (label != nullptr && label->buddy() == nullptr && IsField(*control)) label->setBuddy(widget);
             label = control->kind == ControlKind::kStatic ? qobject_cast<QLabel*>(widget) : label;
             if (control->id > 0) m_controls[control->id] = widget;
             line->addWidget(widget, control->width);
         }
-        column->addLayout(line, stretching(row) ? 1 : 0);
+        column->addLayout(line, Stretches(row) ? 1 : 0);
     }
 }
 
@@ -183,7 +189,13 @@ void CTemplateDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     const QWidget* window = parentWidget() != nullptr ? parentWidget()->window() : nullptr;
     const QRect room = window != nullptr ? window->geometry() : screen()->availableGeometry();
-    if (room.width() < kSmallScreen || room.height() < kSmallScreen) setGeometry(room);
+    if (room.width() < kSmallScreen || room.height() < kSmallScreen) {
+        setGeometry(room);
+        // A title bar would push the buttons off a screen that the window has for itself.
+        if (window != nullptr && window->isFullScreen()) setWindowState(windowState() | Qt::WindowFullScreen);
+    } else if (width() < kLeastWidth) {
+        resize(kLeastWidth, height());
+    }
 }
 
 }  // namespace rlx

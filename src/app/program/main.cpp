@@ -11,6 +11,7 @@
 #include "app/screenshots.h"
 #include "base/text.h"
 #include "shell/fill_text.h"
+#include "uikit/enter_presses.h"
 #include "uikit/qt_text.h"
 #include "uikit/window_style.h"
 
@@ -133,6 +134,8 @@ int main(int count, char** words) {
     }
     QApplication::setStyle(new rlx::CWindowStyle);
     QApplication qt(count, words);
+    rlx::CEnterPresses enter;
+    qt.installEventFilter(&enter);
     const auto line = ReadOptions(qt);
     if (!line) return kWrongUsage;
     if (!line->screenshots.isEmpty()) return WritePictures(*line);
