@@ -89,6 +89,24 @@ TEST_F(ClocksScreen, KeysMoveBetweenTheClocksAndSayWhichOne) {
     EXPECT_EQ(screen.accessibleDescription(), "New York, 3:10:05 PM, 22/11 Sun");
 }
 
+TEST_F(ClocksScreen, BellAndMenuLeadToTheReminders) {
+    std::vector<std::optional<CityIndex>> opened;
+    screen.SetOpenReminders([&](std::optional<CityIndex> city) { opened.push_back(city); });
+    const QPoint bell = LayOutClocks(screen.rect())[0].bell.center().toPoint();
+    QTest::mouseClick(&screen, Qt::LeftButton, {}, bell);
+    EXPECT_TRUE(opened.empty()) << "no reminder waits, no bell";
+    EXPECT_EQ(device.boxes.shown.size(), 1U);
+    screen.SetWaitingReminders(3);
+    EXPECT_EQ(screen.toolTip(), "Reminders that wait: 3");
+    QTest::mouseClick(&screen, Qt::LeftButton, {}, bell);
+    QTest::mouseClick(&screen, Qt::LeftButton, {}, Card(2));
+    EXPECT_EQ(device.boxes.shown.size(), 2U);
+    for (QAction* action : screen.findChild<QMenu*>("clockMenu")->actions()) {
+        if (action->text() == "&Reminder...") action->trigger();
+    }
+    EXPECT_EQ(opened, (std::vector<std::optional<CityIndex>>{std::nullopt, 2U}));
+}
+
 TEST_F(ClocksScreen, MenuMakesAClockTheHomeClock) {
     QContextMenuEvent asked(QContextMenuEvent::Mouse, Card(1), screen.mapToGlobal(Card(1)));
     QApplication::sendEvent(&screen, &asked);
