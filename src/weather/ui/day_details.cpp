@@ -78,7 +78,7 @@ double CDayDetails::WidthOf(const QString& text, int size, bool bold) const {
 int CDayDetails::RowSize(double width, int largest) const {
     const auto fits = [&](int size) {
         return std::ranges::all_of(m_rows, [&](const auto& row) {
-            return WidthOf(row.first, size, false) + kLabelGap + WidthOf(row.second, size, true) <= width;
+            return WidthOf(row.label, size, false) + kLabelGap + WidthOf(row.value, size, true) <= width;
         });
     };
     int size = largest;
