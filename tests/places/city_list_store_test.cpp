@@ -63,6 +63,10 @@ public:
     bool Remove(RegistryRoot root, std::u16string_view key, std::u16string_view name) override {
         return m_fate.Allows() && m_registry.Remove(root, key, name);
     }
+    bool Exchange(RegistryRoot root, std::u16string_view key, std::span<const RegistryAssignment> expected,
+                  std::span<const RegistryAssignment> changes) override {
+        return m_fate.Allows() && m_registry.Exchange(root, key, expected, changes);
+    }
     std::vector<RegistryEntry> List() override { return m_registry.List(); }
 
 private:
