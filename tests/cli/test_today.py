@@ -8,7 +8,7 @@ from rlx_program import RlxTest
 CITIES = ("5\nz;Amsterdam;Netherlands;4.9;52.4;1;1;88;2;298;3\nz;London;United Kingdom;-0.1;51.5;0;1;88;1;298;2\n"
           "z;New York;United States;-74;40.7;-5;1;67;2;305;2\nz;Sydney;Australia;151.2;-33.9;10;1;277;2;95;3\n"
           "z;Tokyo;Japan;139.7;35.7;9;0;0;0;0;0\n")
-CURRENCIES = "3\nEUR;Euro;0.5\nUSD;US Dollar;1\nXXX;Nowhere;n/a\n"
+CURRENCIES = "3\nEUR_Euro_0.5#USD_US Dollar_1#XXX_Nowhere_n/a#"
 NOW = "2026-11-22T21:10:05"
 
 

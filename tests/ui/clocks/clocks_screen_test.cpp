@@ -82,11 +82,11 @@ TEST_F(ClocksScreen, KeysMoveBetweenTheClocksAndSayWhichOne) {
     QTest::keyClick(&screen, Qt::Key_Right);
     EXPECT_TRUE(screen.accessibleDescription().startsWith("New York"));
     QTest::keyClick(&screen, Qt::Key_Down);
-    EXPECT_EQ(screen.accessibleDescription(), "Tokyo, 05:10:05, 23/11 Mon");
+    EXPECT_EQ(screen.accessibleDescription().toStdString(), "Tokyo, 05:10:05, 23/11 Mon, 8:00 ahead of home");
     device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kTwelveHour, 1);
     screen.Refresh();
     QTest::keyClick(&screen, Qt::Key_Up);
-    EXPECT_EQ(screen.accessibleDescription(), "New York, 3:10:05 PM, 22/11 Sun");
+    EXPECT_EQ(screen.accessibleDescription().toStdString(), "New York, 3:10:05 PM, 22/11 Sun, 6:00 behind home");
 }
 
 TEST_F(ClocksScreen, BellAndMenuLeadToTheReminders) {

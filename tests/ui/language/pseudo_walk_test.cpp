@@ -58,13 +58,20 @@ constexpr const char* kShowData[] = {
     "control_1220",  // the number of a colour
     "control_1051",  // units to edit
     "control_1080",  // the credits, a file in English
+    "control_1323",  // name, country and zone of a city
+    "control_1324",
+    "control_1327",
+    "control_1371",  // the city and the day of a reminder
+    "control_1372",
 };
 
 bool IsData(const QWidget& widget, const QString& text) {
     static const QRegularExpression kPerUnit("^/\\S+$");  // behind "Value" in the list of units
     if (kPerUnit.match(text).hasMatch()) return true;
-    const bool viewport = widget.objectName() == "qt_scrollarea_viewport";
-    const QString name = viewport ? widget.parentWidget()->objectName() : widget.objectName();
+    // What shows the text of a list, of a box to choose in and of a date is a nameless part of it.
+    const bool part = widget.objectName().isEmpty() || widget.objectName().startsWith("qt_");
+    const QString name =
+        part && widget.parentWidget() != nullptr ? widget.parentWidget()->objectName() : widget.objectName();
     return std::find(std::begin(kShowData), std::end(kShowData), name) != std::end(kShowData);
 }
 
@@ -80,8 +87,13 @@ protected:
         for (const auto& entry : fs::directory_iterator(test::kDataDir)) {
             const std::string name = entry.path().filename().string();
             // Without the address of a feed server nothing is asked of one.
-            if (name != "langs.dat" && name != "adrs.cfg" && name != "make")
-                fs::create_symlink(entry.path(), m_home / name);
+            if (name == "langs.dat" || name == "adrs.cfg" || name == "make") continue;
+            // The program may write to its files, and through a link it would write to ours.
+            if (entry.is_directory()) {
+                fs::create_directory_symlink(entry.path(), m_home / name);
+            } else {
+                fs::copy_file(entry.path(), m_home / name);
+            }
         }
         m_home.Put("langs.dat", "0,English,none@1,Pseudo,RoamlyPseudo.dll@>");
         fs::create_directories(m_home / "LangsRes");
