@@ -1,7 +1,5 @@
 #include "app/language_commands.h"
 
-#include <QFileDialog>
-
 #include "cli/text_ids.h"
 #include "shell/boxes.h"
 #include "shell/fill_text.h"
@@ -9,6 +7,7 @@
 #include "shell/setting_names.h"
 #include "shell/text_ids.h"
 #include "shell/ui/language_dialog.h"
+#include "uikit/folder_chooser.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {
@@ -64,11 +63,11 @@ void CLanguageCommands::Install(QWidget* parent) {
     const auto browse = [this](QWidget* page, const std::filesystem::path& from) -> std::filesystem::path {
         const auto title = ToQString(m_ports.resources.Text(kTextChooseModuleFolder));
         const auto chosen =
-            QFileDialog::getExistingDirectory(page, title, QString::fromStdString(from.string())).toStdString();
+            ChooseFolder(m_ports.files, m_ports.resources, m_ports.boxes, title, from, page).value_or("");
         // The module folder goes by its own name, by whatever way it was reached.
         std::error_code error;
         const auto modules = ModuleFolder(m_ports.folder);
-        return std::filesystem::equivalent(chosen, modules, error) ? modules : std::filesystem::path(chosen);
+        return std::filesystem::equivalent(chosen, modules, error) ? modules : chosen;
     };
     CInstallLanguages page(m_ports, m_folder, m_module, browse, parent);
     page.exec();
