@@ -58,7 +58,7 @@ void AddRates(CSession& session, CAnswer& answer, Summary& summary, const TodayO
     const RatesOrigin origin =
         OriginOfRates(session.Registry(), ShippedRatesDate(session.Files(), session.Folder().Root()));
     const std::u16string date = origin.date ? RatesDateText(*origin.date) : std::u16string();
-    answer.Set("updated", ToJson(date));
+    answer.Set("updated", cli::ToJson(date));
     const bool stale = AreRatesStale(origin.date, session.Clock().Now().date);
     answer.Set("stale", stale);
     if (summary.rates.empty()) return;
