@@ -89,6 +89,15 @@ void PaintTime(QPainter& painter, const QRectF& line, const ClockTexts& texts, c
     painter.drawText(QPointF(left + timeWidth, base), texts.half);
 }
 
+/// Date and distance in one line; the day of the week gives way where there is no room for both.
+QString DateWithDistance(const ClockTexts& texts, const QRectF& line) {
+    if (texts.shortNote.isEmpty()) return texts.date;
+    const QString both = texts.date + QStringLiteral("  ") + texts.shortNote;
+    const QFont font = FittingFont(both, line.width(), line.height(), false);
+    if (QFontMetricsF(font).horizontalAdvance(both) <= line.width() + 1) return both;
+    return texts.date.section(' ', 0, 0) + QStringLiteral("  ") + texts.shortNote;
+}
+
 }  // namespace
 
 void PaintClockFace(QPainter& painter, const QRectF& area, const ClockHands& hands, bool day,
@@ -128,8 +137,7 @@ void PaintClockTexts(QPainter& painter, const QRectF& area, const ClockTexts& te
     }
     PaintLine(painter, line(0.2, 2.9), texts.city, colours.city, true, alignment);
     PaintTime(painter, line(3.1, 3.9), texts, colours.digital, alignment);
-    const QString date = texts.shortNote.isEmpty() ? texts.date : texts.date + QStringLiteral("  ") + texts.shortNote;
-    PaintLine(painter, line(7.2, 2.5), date, colours.date, false, alignment);
+    PaintLine(painter, line(7.2, 2.5), DateWithDistance(texts, line(7.2, 2.5)), colours.date, false, alignment);
 }
 
 }  // namespace rlx

@@ -25,7 +25,7 @@ struct ClockTexts {
     QString time;
     QString half;  ///< AM or PM, or empty
     QString date;
-    QString note;       ///< day and distance as seen from home, or empty
+    QString note;       ///< day and distance as seen from home; empty for home itself
     QString shortNote;  ///< the distance alone, for small clocks
 };
 

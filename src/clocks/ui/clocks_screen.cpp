@@ -133,7 +133,8 @@ ClockTexts CClocksScreen::TextsOf(std::size_t clock) const {
     ClockTexts texts{
         ToQString(reading.name), ToQString(time.time), ToQString(time.half), ToQString(Trim(reading.dateText)), {}, {}};
     if (clock == 0) return texts;
-    texts.note = ToQString(HomeNote(m_clocks[0], reading, m_resources));
+    const std::u16string note = HomeNote(m_clocks[0], reading, m_resources);
+    texts.note = ToQString(note.empty() ? m_resources.Text(kTextSameAsHome) : note);
     texts.shortNote = ToQString(ShortDistance(MinutesAhead(m_clocks[0], reading)));
     return texts;
 }
