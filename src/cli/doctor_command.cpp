@@ -44,8 +44,9 @@ int Run(CSession& session, CAnswer& answer) {
     Json list = Json::array();
     for (const DoctorFault& fault : faults) {
         list.push_back({{"file", ToJson(fault.file)}, {"line", fault.line}, {"text", ToJson(fault.text)}});
-        const std::u16string line = fault.line > 0 ? u":" + FormatInteger(fault.line) : std::u16string();
-        answer.Line(fault.file + line + u": " + fault.text);
+        std::u16string line = fault.file;
+        if (fault.line > 0) line.append(u":").append(FormatInteger(fault.line));
+        answer.Line(line.append(u": ").append(fault.text));
     }
     const std::u16string count = FormatInteger(static_cast<std::int64_t>(faults.size()));
     answer.Line(faults.empty() ? session.Text(kTextDoctorSound) : session.Text(kTextDoctorFaulty, count));
