@@ -72,8 +72,10 @@ bool Stretches(const Row& row) {
     return std::any_of(row.begin(), row.end(), [](const DialogControl* control) { return TakesRoom(*control); });
 }
 
+/// A button without a text of its own shows a value and opens what changes it.
 bool IsField(const DialogControl& control) {
-    return control.kind != ControlKind::kStatic && control.kind != ControlKind::kPushButton;
+    const bool shows = control.kind == ControlKind::kPushButton && control.text.empty();
+    return control.kind != ControlKind::kStatic && (control.kind != ControlKind::kPushButton || shows);
 }
 
 QWidget* MakeEdit(const DialogControl& control) {

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QPainter>
 #include <algorithm>
-#include <utility>
 
 namespace rlx {
 
@@ -22,6 +21,11 @@ QFont SecondLineFont(const QFont& font) {
     return smaller;
 }
 
+/// The two lines of a cell. An item's text holds the separator that Qt puts for a line end.
+QStringList LinesOf(const QStyleOptionViewItem& cell) {
+    return QString(cell.text).replace(QChar::LineSeparator, QLatin1Char('\n')).split(QLatin1Char('\n'));
+}
+
 void PaintLine(QPainter& painter, const QRect& line, const QString& text, Qt::Alignment alignment) {
     painter.drawText(line, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
                      painter.fontMetrics().elidedText(text, Qt::ElideRight, line.width()));
@@ -32,7 +36,8 @@ void PaintLine(QPainter& painter, const QRect& line, const QString& text, Qt::Al
 void CCityRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
-    const QStringList lines = std::exchange(cell.text, QString()).split(QLatin1Char('\n'));
+    const QStringList lines = LinesOf(cell);
+    cell.text.clear();
     const QStyle* style = cell.widget != nullptr ? cell.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
     painter->save();
@@ -57,7 +62,7 @@ QSize CCityRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QMode
     initStyleOption(&cell, index);
     const QFontMetrics first(cell.font);
     const QFontMetrics second(SecondLineFont(cell.font));
-    const QStringList lines = cell.text.split(QLatin1Char('\n'));
+    const QStringList lines = LinesOf(cell);
     const int width = std::max(first.horizontalAdvance(lines.value(0)), second.horizontalAdvance(lines.value(1)));
     return {width + 2 * kPadding + 2, first.height() + second.height() + 2 * kPadding};
 }
