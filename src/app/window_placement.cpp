@@ -1,6 +1,7 @@
 #include "app/window_placement.h"
 
 #include <QEvent>
+#include <QScreen>
 
 #include "shell/setting_names.h"
 
@@ -15,6 +16,7 @@ constexpr int kDelayMilliseconds = 500;
 CWindowPlacement::CWindowPlacement(QWidget& window, IRegistry& registry)
     : QObject(&window), m_window(window), m_registry(registry) {
     Restore();
+    window.resize(window.size().boundedTo(window.screen()->availableSize()));
     m_delay.setSingleShot(true);
     m_delay.setInterval(kDelayMilliseconds);
     connect(&m_delay, &QTimer::timeout, this, &CWindowPlacement::Save);
