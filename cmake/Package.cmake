@@ -1,4 +1,5 @@
 # What an installed Roamlytix consists of, and the Debian package: cmake --build build/release --target package
+set(CMAKE_INSTALL_DOCDIR share/doc/roamlytix)
 include(GNUInstallDirs)
 
 set(RLX_DATA ${CMAKE_INSTALL_DATADIR}/roamlytix)
