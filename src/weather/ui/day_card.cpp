@@ -115,9 +115,11 @@ void CDayCard::PaintRow(QPainter& painter, QRectF room) const {
     PaintChance(painter, TakeRight(room, width * 0.17), std::clamp(size * 0.8, 9.0, 16.0), true);
     QRectF degrees = TakeRight(room, width * 0.29);
     painter.setPen(text);
+    // As large as the bold one has room for, so that the low never outgrows the high.
+    const double high = std::min(size, width * 0.052);
     PaintFitted(painter, TakeRight(degrees, degrees.width() * 0.47), Qt::AlignRight | Qt::AlignVCenter, m_view.low,
-                {size * 0.9});
-    PaintFitted(painter, degrees.adjusted(0, 0, -3, 0), Qt::AlignRight | Qt::AlignVCenter, m_view.high, {size}, true);
+                {high * 0.9});
+    PaintFitted(painter, degrees.adjusted(0, 0, -3, 0), Qt::AlignRight | Qt::AlignVCenter, m_view.high, {high}, true);
     painter.setPen(m_look.Colour(SkinKey::kWeatherDAYSC));
     PaintFitted(painter, TakeTop(room, room.height() * 0.52), Qt::AlignLeft | Qt::AlignVCenter, m_view.name, {size},
                 true);
