@@ -82,6 +82,8 @@ SchemaState InspectSchema(CConnection& connection) {
     if (connection.Number("PRAGMA application_id", 0) != kApplicationId) {
         const bool empty = version == 0 && connection.Number("SELECT count(*) FROM sqlite_schema", 1) == 0;
         if (connection.HasMetDamage()) return SchemaState::kDamaged;
+        // Another process may have made tables and number, in one step, between the two questions.
+        if (!empty && connection.Number("PRAGMA application_id", 0) == kApplicationId) return InspectSchema(connection);
         return empty ? SchemaState::kEmpty : SchemaState::kForeign;
     }
     if (version > kSchemaVersion) return SchemaState::kNewer;
