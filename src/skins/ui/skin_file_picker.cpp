@@ -1,5 +1,7 @@
 #include "skins/ui/skin_file_picker.h"
 
+#include <QPainter>
+
 #include "shell/control_ids.h"
 #include "skins/ui/skin_preview.h"
 #include "uikit/bitmap_image.h"

@@ -1,5 +1,6 @@
 #include "tools/tiptax/ui/tip_page.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
