@@ -6,6 +6,7 @@
 #include <array>
 
 #include "base/text.h"
+#include "news/news_cleaner.h"
 #include "uikit/qt_text.h"
 
 namespace rlx {
@@ -44,7 +45,7 @@ void CNewsView::EndOfSource() {
 /// The only page that the view is ever sent to is the one of its own program.
 void CNewsView::Navigate(const std::u16string&) {
     const std::string bytes = m_readPage();
-    setHtml(ToQString(IsUtf8(bytes) ? FromUtf8(bytes) : FromWindows1252(bytes)));
+    setHtml(ToQString(CleanNewsPage(IsUtf8(bytes) ? FromUtf8(bytes) : FromWindows1252(bytes))));
 }
 
 /// A sound picture of nothing, whatever is asked for: the document would read a file itself when it is given nothing or

@@ -65,6 +65,12 @@ TEST_F(NewsScreen, ShowingThePageSetsTheFlags) {
     EXPECT_TRUE(page.State().newsRead);
 }
 
+/// The document of a page with tables within tables would take time that doubles with each.
+TEST_F(NewsScreen, APageIsCleanedBeforeItIsLaidOut) {
+    Put("<table><tr><td>" + QString("<table><tr><td>").repeated(500).toStdString() + "deep<script>no</script>");
+    EXPECT_EQ(view->toPlainText().trimmed(), "deep");
+}
+
 /// Whatever a page asks for: nothing reaches the network, and no file beside the page is read.
 TEST_F(NewsScreen, LoadsNothingButThePage) {
     test::CScriptedServer server({});
