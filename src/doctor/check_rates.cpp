@@ -25,7 +25,7 @@ int LineAt(const std::string& bytes, std::size_t at) {
 /// Nothing stands between two entries, so a line break shows up in the code of the next one.
 void CheckEntry(const CurrencyEntry& entry, const std::filesystem::path& file, int line, CDoctorReport& report) {
     if (entry.code.empty() || entry.code.find_first_of(u"\r\n ") != std::u16string::npos)
-        report.Add(file, line, kTextDoctorEmptyField, {u"1"});
+        report.Add(file, line, kTextDoctorCode, {Trim(entry.code)});
     if (!IsRate(entry.rate)) report.Add(file, line, kTextDoctorRate, {entry.name});
 }
 

@@ -25,5 +25,6 @@ inline constexpr TextId kTextDoctorStore = 44016;
 inline constexpr TextId kTextDoctorLanguages = 44017;
 inline constexpr TextId kTextDoctorLanguageChosen = 44018;
 inline constexpr TextId kTextDoctorNoDate = 44019;
+inline constexpr TextId kTextDoctorCode = 44020;
 
 }  // namespace rlx

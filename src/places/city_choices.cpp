@@ -43,6 +43,12 @@ void CCityChoices::Remember(const std::vector<CityRename>& renames) {
     for (const std::u16string_view name : names::kWeatherPlaces)
         m_weather.push_back(Note(keys::kWeather, name, 0, renames));
     m_homeName = m_cities.GetName(m_clocks.front().index);
+    for (const std::u16string_view name : names::kAlarmCities) {
+        const std::u16string place = m_settings.ReadString(RootOf(keys::kAlarms), keys::kAlarms, name);
+        if (place.empty() || !m_cities.IndexOf(place)) continue;
+        const auto renamed = std::ranges::find(renames, place, &CityRename::from);
+        m_reminders.push_back({place, renamed == renames.end() ? place : renamed->to});
+    }
 }
 
 bool CCityChoices::Restore() {
@@ -55,7 +61,7 @@ bool CCityChoices::Restore() {
         const Choice& choice = m_weather[i];
         if (choice.stored && !Write(choice, IndexNow(choice, clocks[i]))) return false;
     }
-    return RestoreHomeName(clocks.front());
+    return RestoreReminders() && RestoreHomeName(clocks.front());
 }
 
 CityIndex CCityChoices::IndexNow(const Choice& choice, CityIndex fallback) {
@@ -64,8 +70,7 @@ CityIndex CCityChoices::IndexNow(const Choice& choice, CityIndex fallback) {
     auto first = m_cities.IndexOf(choice.newPlace);
     if (!first) first = m_cities.IndexOf(choice.place);
     if (!first) {
-        const std::u16string city = Readable(choice.place);
-        if (std::ranges::find(m_gone, city) == m_gone.end()) m_gone.push_back(city);
+        NoteGone(choice.place);
         return fallback < m_cities.Count() ? fallback : 0;
     }
     const std::u16string place = m_cities.GetPlace(*first);
@@ -77,6 +82,24 @@ CityIndex CCityChoices::IndexNow(const Choice& choice, CityIndex fallback) {
 
 bool CCityChoices::Write(const Choice& choice, CityIndex index) {
     return index == choice.index || m_settings.WriteDword(RootOf(choice.key), choice.key, choice.name, index);
+}
+
+void CCityChoices::NoteGone(const std::u16string& place) {
+    const std::u16string city = Readable(place);
+    if (std::ranges::find(m_gone, city) == m_gone.end()) m_gone.push_back(city);
+}
+
+/// A reminder whose city is gone keeps its name and goes by the home clock, until the city is back.
+bool CCityChoices::RestoreReminders() {
+    for (const std::u16string_view name : names::kAlarmCities) {
+        const std::u16string stored = m_settings.ReadString(RootOf(keys::kAlarms), keys::kAlarms, name);
+        const auto noted = std::ranges::find(m_reminders, stored, &CityRename::from);
+        if (noted == m_reminders.end()) continue;
+        const bool renamed = noted->to != noted->from && m_cities.IndexOf(noted->to).has_value();
+        if (!renamed && !m_cities.IndexOf(stored)) NoteGone(stored);
+        if (renamed && !m_settings.WriteString(RootOf(keys::kAlarms), keys::kAlarms, name, noted->to)) return false;
+    }
+    return true;
 }
 
 /// The name of the home city that requests carry, unless somebody put another one there.

@@ -16,7 +16,8 @@ struct CityRename {
     friend bool operator==(const CityRename&, const CityRename&) = default;
 };
 
-/// The settings that hold a city: home, the four world clocks, the four weather places. Takes note of their cities
+/// The settings that hold a city: home, the four world clocks, the four weather places by their numbers, the reminders by
+/// their places. Takes note of their cities
 /// before the cities database changes and finds them again afterwards. Used once for each change, within the
 /// transaction that makes it. References must outlive it.
 class CCityChoices {
@@ -48,12 +49,15 @@ private:
     CityIndex IndexNow(const Choice& choice, CityIndex fallback);
     bool Write(const Choice& choice, CityIndex index);
     bool RestoreHomeName(CityIndex home);
+    bool RestoreReminders();
+    void NoteGone(const std::u16string& place);
 
     CCityDatabase& m_cities;
     CRegistryStore& m_settings;
     std::vector<Choice> m_clocks;
     std::vector<Choice> m_weather;
     std::u16string m_homeName;
+    std::vector<CityRename> m_reminders;  ///< places before and after, for those whose city is known
     std::vector<std::u16string> m_gone;
 };
 

@@ -83,7 +83,8 @@ public:
         if (text.empty()) Fail(field, m_texts.Text(missing));
         if (const auto strange = StrangeCharacter(text, u";:>"))
             Fail(field, FillText(m_texts.Text(kTextCityCharacter), {*strange}));
-        if (text.size() > kLongestName) Fail(field, FillText(m_texts.Text(kTextCityCharacter), {text}));
+        if (text.size() > kLongestName)
+            Fail(field, FillText(m_texts.Text(kTextNameTooLong), {FormatInteger(kLongestName)}));
         return text;
     }
     std::u16string Degrees(CityField field, double limit, TextId range) {

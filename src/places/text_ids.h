@@ -83,5 +83,6 @@ inline constexpr TextId kTextNewCity = 40193;
 inline constexpr TextId kTextChangeCity = 40194;
 inline constexpr TextId kTextDstPeriod = 40195;
 inline constexpr TextId kTextForecastListNotChanged = 40196;
+inline constexpr TextId kTextNameTooLong = 40197;
 
 }  // namespace rlx

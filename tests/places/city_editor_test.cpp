@@ -43,6 +43,7 @@ TEST_F(CityEditor, NamesTheFieldThatIsWrong) {
         {CityField::kName, u"A;B", "The list of cities cannot hold \";\"."},
         {CityField::kName, u"A:B", "The list of cities cannot hold \":\"."},
         {CityField::kName, u">", "The list of cities cannot hold \">\"."},
+        {CityField::kName, std::u16string(101, u'a'), "At most 100 characters."},
         {CityField::kName, u"A\nB", "The list of cities cannot hold \"\n\"."},
         {CityField::kName, u"\u0141\u00F3d\u017A", "The list of cities cannot hold \"\u0141\"."},
         {CityField::kName, u"Paris \U0001F5FC", "The list of cities cannot hold \"\U0001F5FC\"."},

@@ -102,7 +102,9 @@ public:
             all += " " + Chosen(keys::kWorldClock, name);
         for (const auto name : names::kWeatherPlaces)
             all += " " + Chosen(keys::kWeather, name);
-        return all + " " + Narrow(settings.ReadString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kHomeName));
+        all +=
+            " | " + Narrow(settings.ReadString(RootOf(keys::kAlarms), keys::kAlarms, names::kAlarmCities[2])) + " | ";
+        return all + Narrow(settings.ReadString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kHomeName));
     }
 
 private:
@@ -133,6 +135,7 @@ protected:
         run.Choose(keys::kWorldClock, names::kClocks[2], 99);  // no such city
         run.Choose(keys::kWeather, names::kWeatherPlaces[1], 3);
         run.settings.WriteString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kHomeName, u"D");
+        run.settings.WriteString(RootOf(keys::kAlarms), keys::kAlarms, names::kAlarmCities[2], u"D:L");
     }
     CRun Start() { return CRun(folder / ("device" + std::to_string(m_store)), files, fate); }
 
@@ -154,8 +157,9 @@ bool EditAll(CityList& list, std::vector<CityRename>& renames) {
     return true;
 }
 
-constexpr char kBefore[] = "D F H  - - H - - D";
-constexpr char kAfter[] = "K A H  - - H - - K";  // the clock of F has its default: number 684 is not there, so 0
+constexpr char kBefore[] = "D F H  - - H - - | D:L | D";
+constexpr char kAfter[] =
+    "K A H  - - H - - | K:L | K";  // the clock of F has its default: number 684 is not there, so 0
 
 TEST_F(CityListStore, KeepsEachChoiceOnItsCity) {
     CRun run = Start();
