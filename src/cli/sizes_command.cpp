@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "cli/commands.h"
+#include "shell/resources.h"
 #include "tools/clothing/clothing_page.h"
 #include "tools/clothing/text_ids.h"
 
@@ -27,7 +28,9 @@ std::optional<Audience> AudienceNamed(const std::string& word) {
 
 int Show(CSession& session, CAnswer& answer, const SizesWords& words) {
     const std::u16string word = FromUtf8(words.garment);
-    const auto garment = FindGarment(word, session.Texts());
+    auto garment = FindGarment(word, session.Texts());
+    // A script goes on in English whatever language is in force.
+    if (!garment) garment = FindGarment(word, CResources());
     if (!garment) return session.Fail(session.Text(kTextNoSuchGarment, word));
     CClothingPage page;
     page.Select(*garment);

@@ -2,6 +2,7 @@
 
 #include "base/text.h"
 #include "cli/commands.h"
+#include "shell/resources.h"
 #include "shell/text_ids.h"
 #include "tools/converter/text_ids.h"
 #include "tools/converter/unit_database.h"
@@ -29,6 +30,8 @@ std::optional<OpenedUnits> Open(CSession& session, const UnitWords& words) {
     if (!words.category.empty()) {
         const std::u16string word = FromUtf8(words.category);
         units.category = FindCategory(word, session.Texts());
+        // A script goes on in English whatever language is in force.
+        if (!units.category) units.category = FindCategory(word, CResources());
         if (!units.category) {
             session.Fail(session.Text(kTextNoSuchMeasure, word));
             return std::nullopt;

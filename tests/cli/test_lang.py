@@ -39,6 +39,8 @@ class Lang(RlxTest):
         self.assertEqual(self.answer("settings", "get", "Roamlytix", "lang"), {"status": 0, "type": "dword", "value": 1})
         self.assertEqual(self.answer("lang", "text", "32923"), {"text": "[Error!~~~]"})
         self.assertEqual(self.answer("sizes", "[shoes", "men")["title"], "[Men's shoes ~~~~~~]")
+        self.assertEqual(self.answer("sizes", "shoes", "men")["title"], "[Men's shoes ~~~~~~]")
+        self.assertEqual(len(self.answer("units", "list", "temperature")["units"]), 5)
         self.answer("lang", "use", "0", messages=["[" + RESTART + " ~~~~~~" * 3 + " ~~~~~~]"])
         self.assertEqual(self.answer("lang", "text", "32923"), {"text": "Error!"})
 
