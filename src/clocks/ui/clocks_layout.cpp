@@ -19,13 +19,15 @@ QRectF TakeLeft(QRectF& rest, double width) {
     return left;
 }
 
-/// How high the texts are at most, as a part of their width: under the face and beside it.
+/// How high the texts are at most, as a part of their width: under the face and beside it; and how much of the card's
+/// height the face above them has.
 struct TextHeights {
     double under;
     double beside;
+    double face;
 };
-constexpr TextHeights kThreeLines = {0.46, 0.52};
-constexpr TextHeights kFourLines = {0.58, 0.68};
+constexpr TextHeights kThreeLines = {0.46, 0.52, 0.64};
+constexpr TextHeights kFourLines = {0.58, 0.68, 0.5};
 
 /// Face above the texts in an upright card, else beside them.
 ClockCell CellOf(const QRectF& card, double padding, const TextHeights& heights) {
@@ -34,7 +36,7 @@ ClockCell CellOf(const QRectF& card, double padding, const TextHeights& heights)
     QRectF inner = card.adjusted(padding, padding, -padding, -padding);
     cell.centred = inner.height() > inner.width() * 0.8;
     if (cell.centred) {
-        const double face = std::min(inner.width(), inner.height() * 0.64);
+        const double face = std::min(inner.width(), inner.height() * heights.face);
         cell.face = TakeTop(inner, face);
         inner.setTop(inner.top() + padding * 0.6);
         const double height = std::min(inner.height(), inner.width() * heights.under);

@@ -26,6 +26,7 @@ constexpr int kRowForRate = 34;
 constexpr int kWidest = 640;
 constexpr int kWidthForCard = 620;     // of a lying screen
 constexpr int kWidestWithCard = 1120;  // both columns
+constexpr int kLeastCard = 100;        // below the panels, its title and some rows high
 constexpr int kButtonHeight = 32;
 constexpr int kLowButtonHeight = 28;
 constexpr int kLeastButtonWidth = 84;
@@ -50,7 +51,8 @@ struct ScreenLayout {
     bool low = false;
 };
 
-/// One column in the middle, or two with the rate card in the second.
+/// One column in the middle, or two with the rate card in the second. An upright screen has it below, where there is
+/// room.
 void LayOutColumns(const QSize& size, ScreenLayout& layout) {
     const int margin = layout.gap;
     if (layout.low || size.width() < kWidthForCard || size.width() < size.height()) {
@@ -84,6 +86,10 @@ ScreenLayout LayOutScreen(const QSize& size) {
         // What is left over goes between the panels, so that both columns end together.
         const int rest = layout.card.height() - layout.footerHeight - pairs * layout.panel.Height();
         layout.gap = std::max(layout.gap, rest / pairs);
+    } else if (tall) {
+        const int top = layout.top + pairs * (layout.panel.Height() + layout.gap) + layout.footerHeight;
+        const int rest = size.height() - top - layout.gap;
+        if (rest >= kLeastCard) layout.card = QRect(layout.left, top, layout.width, rest);
     }
     return layout;
 }

@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QMouseEvent>
 #include <QTextDocument>
+#include <QTextFrame>
+#include <algorithm>
 #include <array>
 
 #include "base/text.h"
@@ -14,6 +16,7 @@ namespace rlx {
 namespace {
 
 constexpr std::array kTextSizes = {11, 13, 15, 18, 23};  // pixels, by zoom level
+constexpr int kWidestText = 820;                         // pixels
 static_assert(kTextSizes.size() == CNewsZoom::kMost + 1);
 
 }  // namespace
@@ -39,13 +42,13 @@ void CNewsView::AddText(const std::u16string& html) {
 }
 
 void CNewsView::EndOfSource() {
-    setHtml(m_html);
+    ShowPage(m_html);
 }
 
 /// The only page that the view is ever sent to is the one of its own program.
 void CNewsView::Navigate(const std::u16string&) {
     const std::string bytes = m_readPage();
-    setHtml(ToQString(CleanNewsPage(IsUtf8(bytes) ? FromUtf8(bytes) : FromWindows1252(bytes))));
+    ShowPage(ToQString(CleanNewsPage(IsUtf8(bytes) ? FromUtf8(bytes) : FromWindows1252(bytes))));
 }
 
 /// A sound picture of nothing, whatever is asked for: the document would read a file itself when it is given nothing or
@@ -69,6 +72,26 @@ void CNewsView::Tap(const QPoint& point, const QSize& area) {
     QFont size = font();
     size.setPixelSize(kTextSizes.at(static_cast<std::size_t>(level)));
     document()->setDefaultFont(size);
+}
+
+/// Lines wider than this are hard to read: the rest of a wide view is margin.
+void CNewsView::resizeEvent(QResizeEvent* event) {
+    Centre();
+    QTextBrowser::resizeEvent(event);
+}
+
+void CNewsView::Centre() {
+    const double margin = std::max(document()->documentMargin(), (width() - kWidestText) / 2.0);
+    QTextFrameFormat format = document()->rootFrame()->frameFormat();
+    if (format.leftMargin() == margin) return;
+    format.setLeftMargin(margin);
+    format.setRightMargin(margin);
+    document()->rootFrame()->setFrameFormat(format);
+}
+
+void CNewsView::ShowPage(const QString& html) {
+    setHtml(html);
+    Centre();
 }
 
 /// The squares lie below the text, so a tap on it changes nothing, but the level is sent again.

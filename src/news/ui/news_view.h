@@ -35,8 +35,12 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void ShowPage(const QString& html);
+    void Centre();
+
     const CLook& m_look;
     const ReadPage m_readPage;
     CNewsZoom m_zoom;
