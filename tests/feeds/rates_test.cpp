@@ -5,9 +5,9 @@
 #include "feeds/rates_origin.h"
 #include "feeds/rates_reply.h"
 #include "feeds/rates_update.h"
+#include "platform/fake/fixed_clock.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/sqlite/device_store.h"
-#include "support/still_clock.h"
 #include "support/temp_folder.h"
 
 namespace rlx::test {
@@ -115,7 +115,7 @@ TEST(RatesReply, TakesEntriesApart) {
 /// A device with a currency database, at noon of 1 March 2026.
 struct RatesWorld : FeedWorld {
     RatesWorld() {
-        clock.now = DateTime{{2026, 3, 1}, 12};
+        clock.Set(DateTime{{2026, 3, 1}, 12});
         database.EnsureCreated(kList);
     }
 
@@ -129,7 +129,7 @@ struct RatesWorld : FeedWorld {
         return update.Update(database, server.Url(), u"did=a&jc=110", {{240, 268}, 200});
     }
 
-    StillClock clock;
+    CFixedClock clock;
     std::unique_ptr<CDeviceStore> store = OpenDeviceStoreInMemory(clock);
     CCurrencyDatabase database{store->Objects()};
     CRatesUpdate update{ports, store->Objects(), kList};
@@ -158,7 +158,7 @@ TEST(CurrencyDatabase, IsBuiltOnceAndReadByName) {
 }
 
 TEST(CurrencyDatabase, AnEmptyOneIsBuiltWhenThereIsAList) {
-    StillClock clock;
+    CFixedClock clock;
     const auto store = OpenDeviceStoreInMemory(clock);
     CCurrencyDatabase database(store->Objects());
     EXPECT_TRUE(database.EnsureCreated({}));
@@ -211,9 +211,9 @@ TEST(RatesUpdate, TheLabelChangesWithTheDay) {
     CScriptedServer server({{FeedReplyBytes("EUR_1#")}, {FeedReplyBytes("EUR_2#")}, {FeedReplyBytes("XYZ_1#")}});
     EXPECT_EQ(world.Update(server).label, std::nullopt);
     EXPECT_EQ(world.Rates(), "EUR=1 USD=1 JPY=150 ");
-    world.clock.now = DateTime{{2026, 3, 2}, 0};
+    world.clock.Set(DateTime{{2026, 3, 2}, 0});
     EXPECT_EQ(world.Update(server).label, u"Last update\n 2/3/2026 ");
-    world.clock.now = DateTime{{2026, 3, 3}, 0};
+    world.clock.Set(DateTime{{2026, 3, 3}, 0});
     const RatesUpdateResult third = world.Update(server);
     EXPECT_EQ(third.label, std::nullopt);
     EXPECT_EQ(third.rates, 0U);

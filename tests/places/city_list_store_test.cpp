@@ -9,12 +9,12 @@
 #include "places/rules_refresh.h"
 #include "platform/fake/fixed_clock.h"
 #include "platform/fake/fixed_time_zones.h"
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "platform/sqlite/device_store.h"
 #include "shell/clock_settings.h"
 #include "shell/resources.h"
 #include "shell/setting_names.h"
-#include "support/memory_files.h"
 #include "support/temp_folder.h"
 
 namespace rlx {
@@ -35,11 +35,11 @@ struct Fate {
     }
 };
 
-class CFatedFiles : public test::CMemoryFiles {
+class CFatedFiles : public CMemoryFileSystem {
 public:
     explicit CFatedFiles(Fate& fate) : m_fate(fate) {}
     bool WriteFile(const std::filesystem::path& file, std::string_view bytes) override {
-        return m_fate.Allows() && test::CMemoryFiles::WriteFile(file, bytes);
+        return m_fate.Allows() && CMemoryFileSystem::WriteFile(file, bytes);
     }
 
 private:

@@ -67,7 +67,7 @@ public:
     }
 
     bool Compare(int year, const Date& rulesDay) {
-        m_files.Put(kList, CityListBytes(m_list).value_or(""));
+        m_files.files[kList] = CityListBytes(m_list).value_or("");
         if (m_cities.EnsureCreated() != CityListState::kReady || m_cities.Count() == 0) return false;
         for (const Group& group : Groups(year, rulesDay))
             CompareGroup(group, year);
