@@ -7,7 +7,7 @@
 
 #include <csignal>
 
-#include "support/still_clock.h"
+#include "platform/fake/fixed_clock.h"
 #include "support/temp_folder.h"
 
 namespace rlx {
@@ -62,7 +62,7 @@ protected:
     }
 
     test::CTempFolder m_folder;
-    test::StillClock m_clock;
+    CFixedClock m_clock{{{2026, 11, 22}, 14, 22, 33, 0}};
 };
 
 TEST_F(DeviceStore, IsMadeOnceWithTheFoldersAboveIt) {

@@ -111,14 +111,14 @@ INSTANTIATE_TEST_SUITE_P(, FileSystemContract, testing::Values("posix", "memory"
 TEST(MemoryFileSystem, RefusesTheWritesOfThePlanAndReadOnlyFolders) {
     CFailurePlan plan;
     CMemoryFileSystem files(plan);
-    files.Put("/app/pack.dat", "old");
+    files.files["/app/pack.dat"] = "old";
     plan.FailAt(2);
     EXPECT_TRUE(files.WriteFile("/app/a", "1"));
     EXPECT_FALSE(files.WriteFile("/app/pack.dat", "new"));
     EXPECT_EQ(files.ReadFile("/app/pack.dat", 10), "old");
     EXPECT_TRUE(files.WriteFile("/app/pack.dat", "new"));
     EXPECT_EQ(plan.Seen(), 3);
-    files.MakeReadOnly("/app");
+    files.readOnly.insert("/app");
     EXPECT_FALSE(files.WriteFile("/app/b", ""));
     EXPECT_FALSE(files.IsWritableFolder("/app/"));
     EXPECT_TRUE(files.IsFile("/app/sub/../a"));

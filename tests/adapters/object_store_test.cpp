@@ -1,6 +1,6 @@
 #include "platform/fake/failing_object_store.h"
+#include "platform/fake/fixed_clock.h"
 #include "platform/sqlite/device_store.h"
-#include "support/still_clock.h"
 #include "support/temp_folder.h"
 
 namespace rlx {
@@ -35,7 +35,7 @@ protected:
     }
 
     test::CTempFolder m_folder;
-    test::StillClock m_clock;
+    CFixedClock m_clock{{{2026, 11, 22}, 14, 22, 33, 0}};
     std::unique_ptr<CDeviceStore> m_store;
     std::unique_ptr<IRecordDatabase> m_db;
 };
@@ -169,12 +169,12 @@ TEST_F(ObjectStore, AJoinedTransactionTakesBackOnlyItsOwnWrites) {
 }
 
 TEST_F(ObjectStore, LastModifiedFollowsTheDeviceClock) {
-    const std::int64_t made = SecondNumber(m_clock.now);
+    const std::int64_t made = SecondNumber(m_clock.Now());
     EXPECT_EQ(m_db->LastModified(), made);
-    m_clock.now = AddSeconds(m_clock.now, -7200);
+    m_clock.Set(AddSeconds(m_clock.Now(), -7200));
     const RecordId id = Put(u"a");
     EXPECT_EQ(m_db->LastModified(), made - 7200);
-    m_clock.now = AddSeconds(m_clock.now, 10);
+    m_clock.Set(AddSeconds(m_clock.Now(), 10));
     m_db->Overwrite(999, {});
     m_store->Registry().Set(RegistryRoot::kLocalMachine, u"K", u"v", {});
     EXPECT_EQ(m_db->LastModified(), made - 7200) << "a refused write and a setting are no change";

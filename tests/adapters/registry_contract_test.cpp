@@ -1,6 +1,6 @@
+#include "platform/fake/fixed_clock.h"
 #include "platform/fake/memory_registry.h"
 #include "platform/sqlite/device_store.h"
-#include "support/still_clock.h"
 #include "support/temp_folder.h"
 
 namespace rlx {
@@ -23,7 +23,7 @@ protected:
 
 private:
     test::CTempFolder m_folder;
-    test::StillClock m_clock;
+    CFixedClock m_clock;
     CMemoryRegistry m_memory;
     std::unique_ptr<CDeviceStore> m_store;
 };

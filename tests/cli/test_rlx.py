@@ -1,16 +1,13 @@
 #!/usr/bin/env python3
 """What `rlx` answers, seen from outside: members, messages, exit statuses, files."""
 
-import datetime
 import json
 import os
 import pathlib
-import random
 import shutil
 import subprocess
 import unittest
 
-import city_model as model
 from rlx_program import NOW, RLX, RlxTest
 
 NO_FILE = "Cities file not found\nDatabase not created!"
@@ -60,63 +57,13 @@ class Clocks(RlxTest):
 
 
 class Times(RlxTest):
-    def random_city(self, chance):
-        offset = chance.choice([chance.randint(-12, 14), chance.randint(-1300, 1400), 100, -100, 101, -101, 545, -330])
-        rule = (chance.choice([0, 1, 1, 2]), chance.randint(1, 365), chance.randint(0, 23), chance.randint(1, 365),
-                chance.randint(0, 23))
-        return offset, rule
-
-    def check_instant(self, table, now, sync, bias):
-        """Compares the clocks at one instant with the model; says how many."""
-        answer = self.answer("clocks", now=now.isoformat(), bias=bias)
-        ref = model.reference(table[0], sync, bias, now)
-        self.assertEqual(answer["reference"], {"hours": ref[0], "minutes": ref[1]})
-        for clock in answer["clocks"][1 - sync:]:
-            city = table[clock["cityIndex"]]
-            effective, dst, text, date = model.world_clock(city, ref, now)
-            with self.subTest(city=city, home=table[0], now=now, sync=sync, bias=bias):
-                self.assertEqual([clock[m] for m in ("effectiveGmt", "dst", "time", "date")],
-                                 [effective, dst, text, model.date_text(date, clock["slot"] == "home")])
-        if not sync:
-            self.assertEqual([answer["clocks"][0][m] for m in ("time", "date")],
-                             [f"{now:%H:%M:%S}", model.date_text(now, True)])
-        return len(answer["clocks"])
-
-    def test_random_cities_rules_instants_and_zones(self):
-        chance, compared = random.Random(20261122), 0
-        for round_ in range(20):
-            table = [self.random_city(chance) for _ in range(989)]
-            self.cities(listed(*(f"x;City {i:03};Land;1;2;{offset};{';'.join(map(str, rule))}\n"
-                                 for i, (offset, rule) in enumerate(table))))
-            self.answer("settings", "set", WORLD_CLOCK, "syncltz", "--dword", str(round_ % 2))
-            for _ in range(3):
-                now = datetime.datetime(chance.choice([2024, 2026, 2027]), 1, 1) + datetime.timedelta(
-                    days=chance.choice([0, 58, 59, 364, chance.randint(0, 364)]), hours=chance.choice([0, 23, 12, 7]),
-                    minutes=chance.randint(0, 59), seconds=chance.randint(0, 59))
-                bias = chance.choice([0, -60, -330, 330, -345, 210, 480, -825, 61, -1])
-                compared += self.check_instant(table, now, round_ % 2, bias)
-        self.assertEqual(compared, 300)
-
-    def test_named_instants(self):
-        rows = (  # name, offset;rule, now, bias, then time, date, effective offset, dst
-            ("quarter hours", "545;0;0;0;0;0", "2026-07-10T23:30:07", 0, "05:15:07", "11/07 Sat", 545, False),
-            ("west over midnight", "-3;0;0;0;0;0", "2026-03-01T00:10:00", 0, "21:10:00", "28/02 Sat", -3, False),
-            ("leap day", "-3;0;0;0;0;0", "2024-03-01T00:10:00", 0, "21:10:00", "29/02 Thu", -3, False),
-            ("sign of the zone's minutes", "0;0;0;0;0;0", "2026-07-10T12:00:00", -330, "07:30:00", "10/07 Fri", 0, False),
-            ("southern December", "10;1;277;2;95;3", "2026-12-01T12:00:00", 0, "23:00:00", "01/12 Tue", 11, True),
-            ("southern January", "10;1;277;2;95;3", "2026-01-15T12:00:00", 0, "22:00:00", "15/01 Thu", 10, False),
-            ("half hours and daylight", "930;1;1;2;365;3", "2026-07-01T12:00:00", 0, "22:30:00", "01/07 Wed", 1030, True),
-            ("hours of the rule do not count", "0;1;88;23;298;0", "2026-03-29T00:00:00", 0, "01:00:00", "29/03 Sun", 1, True),
-            ("no daylight, whatever the days", "0;0;1;0;365;0", "2026-07-01T12:00:00", 0, "12:00:00", "01/07 Wed", 0, False),
-        )
-        self.cities(listed(*(f"x;Place {i};Land;1;2;{row[1]}\n" for i, row in enumerate(rows))))
+    def test_members(self):
+        self.cities(listed("x" + KATHMANDU, "x" + LONDON))
         self.answer("settings", "set", WORLD_CLOCK, "syncltz", "--dword", "1")  # the zone, whatever the home city
-        for i, (name, _, now, bias, *wanted) in enumerate(rows):
-            with self.subTest(name):
-                answer = self.answer("time", str(i), now=now, bias=bias)
-                self.assertEqual([answer[m] for m in ("time", "date", "effectiveGmt", "dst")], wanted)
-        self.assertEqual(answer, {"time": "12:00:00", "date": "01/07 Wed", "dateLong": "01/07/2026    Wed", "day": 1, "month": 7,
-                                  "year": 2026, "effectiveGmt": 0, "dst": False, "reference": {"hours": 0, "minutes": 0}})
+        answer = self.answer("time", "London", now="2026-07-10T12:00:00", bias=-330)
+        self.assertEqual(answer, {"time": "08:30:00", "date": "10/07 Fri", "dateLong": "10/07/2026    Fri", "day": 10,
+                                  "month": 7, "year": 2026, "effectiveGmt": 1, "dst": True,
+                                  "reference": {"hours": 5, "minutes": -30}})
 
 
 class Cities(RlxTest):
@@ -135,27 +82,14 @@ class Cities(RlxTest):
         self.assertTrue(answer["info"].endswith("Never observing\nDST start/end: -\nGmt: 5h"), answer["info"])
 
     def test_files(self):
-        good, rest = "x;{};L;1;2;3;0;0;0;0;0", ["3", "0:0:0:0:0"]
-
-        def line(name):
-            return good.format(name) + "\n"
-
+        line, rest = "x;{};L;1;2;3;0;0;0;0;0\n", ["3", "0:0:0:0:0"]
         rows = (  # name, file, names, offset and rule of city 0
-            ("end mark", listed(line("A"), "x;>;\n", line("B")), ["A:L"], rest),
-            ("end mark as longitude", listed(line("A"), "x;B;L;>;\n"), ["A:L"], rest),
-            ("end mark as country is none", listed(line("A").replace(";L", ";>")), ["A:>"], rest),
-            ("count too large", "9\n" + line("A"), ["A:L"], rest),
-            ("count too small", "1\n" + line("A") + line("B"), ["A:L"], rest),
-            ("count with more behind it", "1 city\n" + line("A"), ["A:L"], rest),
-            ("no count", line("A"), [], None),
-            ("last line unended", "1\n" + good.format("A"), ["A:L"], rest),
-            ("doubled semicolon", "1\nx;A;;L;1;2;3;0;0;0;0;0\n", ["A:L"], rest),
+            ("no count", line.format("A"), [], None),
             ("empty field shifts", "1\nx;A;L;1;2;;7;0;1;2;3;4;5\n", ["A:L"], ["7", "0:1:2:3:4;5"]),
-            ("carriage returns", "1\r\n" + good.format("A") + "\r\n", ["A:L"], ["3", "0:0:0:0:0\r"]),
-            ("order of code units", listed(line("a"), line("Z"), line("\xe9"), line("A")),
+            ("order of code units", listed(*map(line.format, ("a", "Z", "\xe9", "A"))),
              ["A:L", "Z:L", "a:L", "\xe9:L"], rest),
             ("zero bytes and high bytes", b"1\nx;\0\xff;L;1;2;3;0;0;0;0;0\n", ["\0\xff:L"], rest),
-            ("very long name", listed(line("n" * 5000)), ["n" * 1499 + ":L"], rest),
+            ("very long name", listed(line.format("n" * 5000)), ["n" * 1499 + ":L"], rest),
         )
         for name, text, places, rule in rows:
             with self.subTest(name):

@@ -1,6 +1,6 @@
 #include "clocks/user_timer.h"
 
-#include "support/memory_files.h"
+#include "platform/fake/memory_file_system.h"
 
 namespace rlx {
 namespace {
@@ -26,7 +26,7 @@ protected:
 
     const DateTime first{{2026, 11, 23}, 8, 0, 0, 0};
     const DateTime second{{2026, 12, 1}, 23, 5, 7, 0};
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     CFakeServices services;
 };
 

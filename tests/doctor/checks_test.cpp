@@ -7,10 +7,10 @@
 #include "base/number.h"
 #include "base/text.h"
 #include "platform/fake/fixed_time_zones.h"
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_registry.h"
 #include "shell/resources.h"
 #include "shell/setting_names.h"
-#include "support/memory_files.h"
 
 namespace rlx {
 namespace {
@@ -56,7 +56,7 @@ protected:
         return all;
     }
 
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     CFixedTimeZones zones;
     CMemoryRegistry registry;
     CRegistryStore settings{registry};

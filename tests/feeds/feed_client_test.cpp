@@ -268,13 +268,6 @@ TEST(FeedClient, AServerThatDripsForEverIsLeft) {
     EXPECT_EQ(world.Messages(), (std::vector<std::string>{NoServer("12002")}));
 }
 
-TEST(FeedClient, TheEnglishTextsAreThose) {
-    const CResources english;
-    const CFeedTexts expected;
-    for (const int id : expected.Ids())
-        EXPECT_EQ(english.Text(id), expected.Text(id)) << id;
-}
-
 TEST(FeedClient, SendsHeadersAndBodyInOrder) {
     FeedWorld world;
     CScriptedServer server({{FeedReplyBytes("a")}, {FeedReplyBytes("b", "1005", "7", "S2")}, {FeedReplyBytes("c")}});

@@ -9,8 +9,8 @@
 #include "platform/curl/curl_http_session.h"
 #include "platform/fake/fake_connection_manager.h"
 #include "platform/fake/memory_registry.h"
+#include "shell/resources.h"
 #include "shell/setting_names.h"
-#include "support/feed_texts.h"
 #include "support/recorded_boxes.h"
 #include "support/scripted_server.h"
 
@@ -62,7 +62,7 @@ struct FeedWorld {
     CRegistryStore settings{registry};
     CFakeConnectionManager connections;
     CRecordedBoxes boxes;
-    CFeedTexts texts;
+    const CResources texts;
     CCurlHttpSession http{QuickLimits()};
     FeedPorts ports{http, connections, registry, boxes, texts};
     CFeedClient client{ports};

@@ -5,9 +5,10 @@
 #include "feeds/rates_origin.h"
 #include "feeds/rates_reply.h"
 #include "feeds/rates_update.h"
+#include "platform/fake/failing_object_store.h"
+#include "platform/fake/fixed_clock.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/sqlite/device_store.h"
-#include "support/still_clock.h"
 #include "support/temp_folder.h"
 
 namespace rlx::test {
@@ -115,7 +116,7 @@ TEST(RatesReply, TakesEntriesApart) {
 /// A device with a currency database, at noon of 1 March 2026.
 struct RatesWorld : FeedWorld {
     RatesWorld() {
-        clock.now = DateTime{{2026, 3, 1}, 12};
+        clock.Set(DateTime{{2026, 3, 1}, 12});
         database.EnsureCreated(kList);
     }
 
@@ -129,7 +130,7 @@ struct RatesWorld : FeedWorld {
         return update.Update(database, server.Url(), u"did=a&jc=110", {{240, 268}, 200});
     }
 
-    StillClock clock;
+    CFixedClock clock;
     std::unique_ptr<CDeviceStore> store = OpenDeviceStoreInMemory(clock);
     CCurrencyDatabase database{store->Objects()};
     CRatesUpdate update{ports, store->Objects(), kList};
@@ -158,7 +159,7 @@ TEST(CurrencyDatabase, IsBuiltOnceAndReadByName) {
 }
 
 TEST(CurrencyDatabase, AnEmptyOneIsBuiltWhenThereIsAList) {
-    StillClock clock;
+    CFixedClock clock;
     const auto store = OpenDeviceStoreInMemory(clock);
     CCurrencyDatabase database(store->Objects());
     EXPECT_TRUE(database.EnsureCreated({}));
@@ -211,9 +212,9 @@ TEST(RatesUpdate, TheLabelChangesWithTheDay) {
     CScriptedServer server({{FeedReplyBytes("EUR_1#")}, {FeedReplyBytes("EUR_2#")}, {FeedReplyBytes("XYZ_1#")}});
     EXPECT_EQ(world.Update(server).label, std::nullopt);
     EXPECT_EQ(world.Rates(), "EUR=1 USD=1 JPY=150 ");
-    world.clock.now = DateTime{{2026, 3, 2}, 0};
+    world.clock.Set(DateTime{{2026, 3, 2}, 0});
     EXPECT_EQ(world.Update(server).label, u"Last update\n 2/3/2026 ");
-    world.clock.now = DateTime{{2026, 3, 3}, 0};
+    world.clock.Set(DateTime{{2026, 3, 3}, 0});
     const RatesUpdateResult third = world.Update(server);
     EXPECT_EQ(third.label, std::nullopt);
     EXPECT_EQ(third.rates, 0U);
@@ -223,68 +224,22 @@ TEST(RatesUpdate, TheLabelChangesWithTheDay) {
 }
 
 TEST(RatesUpdate, TheLabelFitsTheScreen) {
-    const CFeedTexts texts;
+    const CResources texts;
     const Date date{2026, 12, 31};
     EXPECT_EQ(RatesUpdateLabel(texts, {{240, 241}, 0}, date), u"Last update\n 31/12/2026 ");
     EXPECT_EQ(RatesUpdateLabel(texts, {{240, 240}, 244}, date), u"Upd. 31/12/2026 ");
     EXPECT_EQ(RatesUpdateLabel(texts, {{320, 240}, 245}, date), u"Last update\n 31/12/2026 ");
 }
 
-/// Refuses the second write of a transaction.
-class CRefusingDatabase : public IRecordDatabase {
-public:
-    CRefusingDatabase(std::unique_ptr<IRecordDatabase> inner, int& writesLeft)
-        : m_inner(std::move(inner)), m_writesLeft(writesLeft) {}
-    std::size_t Count() override { return m_inner->Count(); }
-    std::optional<RecordId> SeekPosition(PropertyId id, std::size_t at) override {
-        return m_inner->SeekPosition(id, at);
-    }
-    std::optional<RecordId> SeekValue(PropertyId id, std::u16string_view v) override {
-        return m_inner->SeekValue(id, v);
-    }
-    std::optional<std::size_t> PositionOf(PropertyId id, RecordId record) override {
-        return m_inner->PositionOf(id, record);
-    }
-    std::optional<Record> Read(RecordId record) override { return m_inner->Read(record); }
-    std::optional<RecordId> Add(const Record& record) override {
-        return m_writesLeft-- > 0 ? m_inner->Add(record) : std::nullopt;
-    }
-    bool Overwrite(RecordId record, const Record& properties) override {
-        return m_writesLeft-- > 0 && m_inner->Overwrite(record, properties);
-    }
-    bool Delete(RecordId record) override { return m_inner->Delete(record); }
-    std::optional<std::int64_t> LastModified() override { return m_inner->LastModified(); }
-
-private:
-    std::unique_ptr<IRecordDatabase> m_inner;
-    int& m_writesLeft;
-};
-
-class CRefusingStore : public IObjectStore {
-public:
-    CRefusingStore(IObjectStore& inner, int writesLeft) : m_inner(inner), m_writesLeft(writesLeft) {}
-    bool Create(std::u16string_view name, std::uint32_t type, const std::vector<PropertyId>& orders) override {
-        return m_inner.Create(name, type, orders);
-    }
-    std::unique_ptr<IRecordDatabase> Open(std::u16string_view name) override {
-        auto inner = m_inner.Open(name);
-        return inner ? std::make_unique<CRefusingDatabase>(std::move(inner), m_writesLeft) : nullptr;
-    }
-    bool Remove(std::u16string_view name) override { return m_inner.Remove(name); }
-    bool Transact(const std::function<bool()>& work) override { return m_inner.Transact(work); }
-
-private:
-    IObjectStore& m_inner;
-    int m_writesLeft;
-};
-
 TEST(RatesUpdate, AFullDeviceKeepsTheOldRates) {
     RatesWorld world;
-    CRefusingStore refusing(world.store->Objects(), 1);
+    CFailurePlan plan;
+    CFailingObjectStore refusing(world.store->Objects(), plan);
     CCurrencyDatabase database(refusing);
     ASSERT_TRUE(database.EnsureCreated(kList));
     CRatesUpdate update(world.ports, refusing, kList);
     CScriptedServer server({{FeedReplyBytes("EUR_2#JPY_3#")}});
+    plan.FailAt(2);
     EXPECT_FALSE(update.Update(database, server.Url(), u"", {}).stored);
     EXPECT_EQ(world.Rates(), "EUR=0.9 USD=1 JPY=150 ");
     EXPECT_EQ(world.Messages(), (std::vector<std::string>{"Error!|!|The rates could not be stored."}));

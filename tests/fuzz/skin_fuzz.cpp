@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "../support/memory_files.h"
+#include "platform/fake/memory_file_system.h"
 #include "skins/skin.h"
 #include "skins/skin_file.h"
 #include "skins/skin_validator.h"
@@ -13,7 +13,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace rlx;
     const std::filesystem::path file = "/skins/any.skn";
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     files.files[file] = std::string(reinterpret_cast<const char*>(data), size);
     files.files["/outside.jpg"] = files.files["/skins/P/pic.jpg"] = "picture";
     ValidateSkin(files, file);

@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
 #include <random>
-#include <sstream>
 
 #include "astro/angles.h"
 #include "astro/night_test.h"
-#include "support/paths.h"
 
 namespace rlx {
 namespace {
@@ -136,35 +133,6 @@ TEST(NightShadow, ColoursAreMasks) {
     EXPECT_EQ(map.Row(0)[1], 0xFF000000U);
     EXPECT_EQ(map.Row(1)[1], 0xFF88FF77U);
     EXPECT_EQ(map.Row(1)[2], 0xFF000000U);
-}
-
-std::string TextArt(const CBitmap& map) {
-    std::string art;
-    for (int y = 0; y < map.Height(); ++y) {
-        for (int x = 0; x < map.Width(); ++x)
-            art += map.Row(y)[x] == 0xFF000000U ? '#' : '.';
-        art += '\n';
-    }
-    return art;
-}
-
-TEST(NightShadow, GoldenPictures) {
-    const struct {
-        const char* name;
-        DateTime universalTime;
-    } rows[] = {
-        {"june_solstice", {{2024, 6, 20}, 20, 51, 0, 0}},    {"december_solstice", {{2024, 12, 21}, 9, 21, 0, 0}},
-        {"march_equinox", {{2024, 3, 20}, 3, 6, 0, 0}},      {"september_equinox", {{2024, 9, 22}, 12, 44, 0, 0}},
-        {"northern_polar_day", {{2025, 5, 10}, 0, 0, 0, 0}}, {"southern_polar_day", {{2025, 11, 10}, 12, 0, 0, 0}},
-    };
-    for (const auto& row : rows) {
-        std::ifstream file(std::string(test::kTestDir) + "/golden/shadow/" + row.name + ".txt");
-        std::stringstream golden;
-        golden << file.rdbuf();
-        CBitmap map(76, 36, 0xFFFFFFFFU);
-        ShadeNight(map, {76, 36, 2}, SolarInstantAt(row.universalTime), 0);
-        EXPECT_EQ(std::string(row.name) + "\n" + TextArt(map), golden.str());
-    }
 }
 
 }  // namespace

@@ -7,10 +7,10 @@
 
 #include "places/city_times.h"
 #include "platform/fake/fixed_clock.h"
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_object_store.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "shell/resources.h"
-#include "support/memory_files.h"
 
 namespace rlx::test {
 
@@ -27,7 +27,7 @@ protected:
     CCityTimes Times(const ClockSettings& settings) { return CCityTimes(cities, clock, texts, settings); }
 
     CMemoryObjectStore store;
-    CMemoryFiles files;
+    CMemoryFileSystem files;
     CScriptedMessageBoxes boxes;
     CFixedClock clock;
     const CResources texts;

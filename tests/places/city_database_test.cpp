@@ -1,7 +1,6 @@
 #include "places/city_database.h"
 
 #include "places/cities_fixture.h"
-#include "platform/sqlite/device_store.h"
 
 namespace rlx {
 namespace {
@@ -102,19 +101,6 @@ TEST_F(CityDatabase, RebuildsForEveryHandle) {
     EXPECT_EQ(cities.Rebuild(), CityListState::kNoFile);
     EXPECT_EQ(cities.GetName(0), u"Rome") << "without a file the cities stay";
     EXPECT_EQ(boxes.shown.size(), 1U);
-}
-
-TEST_F(CityDatabase, WorksOnTheRealStore) {
-    const auto device = OpenDeviceStoreInMemory(clock);
-    files.files[kFile] = kTwoCities;
-    CCityDatabase real(device->Objects(), files, boxes, texts, kFile);
-    CCityDatabase other(device->Objects(), files, boxes, texts, kFile);
-    ASSERT_EQ(real.EnsureCreated(), CityListState::kReady);
-    EXPECT_EQ(other.GetName(1), u"Ulm");
-    files.files[kFile] = kOneCity;
-    ASSERT_EQ(real.Rebuild(), CityListState::kReady);
-    EXPECT_EQ(other.GetPlace(0), u"Rome:Italy");
-    EXPECT_EQ(other.GetPlace(1), u"");
 }
 
 }  // namespace

@@ -7,72 +7,19 @@
 #include "base/text.h"
 #include "places/rules_date.h"
 #include "places/rules_refresh.h"
+#include "platform/fake/failing_registry.h"
 #include "platform/fake/fixed_clock.h"
 #include "platform/fake/fixed_time_zones.h"
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "platform/sqlite/device_store.h"
 #include "shell/clock_settings.h"
 #include "shell/resources.h"
 #include "shell/setting_names.h"
-#include "support/memory_files.h"
 #include "support/temp_folder.h"
 
 namespace rlx {
 namespace {
-
-struct Killed {};
-
-/// A device that dies or refuses at the n-th write of files and settings.
-struct Fate {
-    int dieAt = 0;
-    int refuseAt = 0;
-    int writes = 0;
-
-    bool Allows() {
-        ++writes;
-        if (writes == dieAt) throw Killed();
-        return writes != refuseAt;
-    }
-};
-
-class CFatedFiles : public test::CMemoryFiles {
-public:
-    explicit CFatedFiles(Fate& fate) : m_fate(fate) {}
-    bool WriteFile(const std::filesystem::path& file, std::string_view bytes) override {
-        return m_fate.Allows() && test::CMemoryFiles::WriteFile(file, bytes);
-    }
-
-private:
-    Fate& m_fate;
-};
-
-class CFatedRegistry : public IRegistry {
-public:
-    CFatedRegistry(IRegistry& registry, Fate& fate) : m_registry(registry), m_fate(fate) {}
-    bool KeyExists(RegistryRoot root, std::u16string_view key) override { return m_registry.KeyExists(root, key); }
-    std::vector<std::u16string> ValueNames(RegistryRoot root, std::u16string_view key) override {
-        return m_registry.ValueNames(root, key);
-    }
-    std::optional<RegistryValue> Query(RegistryRoot root, std::u16string_view key, std::u16string_view name) override {
-        return m_registry.Query(root, key, name);
-    }
-    bool Set(RegistryRoot root, std::u16string_view key, std::u16string_view name,
-             const RegistryValue& value) override {
-        return m_fate.Allows() && m_registry.Set(root, key, name, value);
-    }
-    bool Remove(RegistryRoot root, std::u16string_view key, std::u16string_view name) override {
-        return m_fate.Allows() && m_registry.Remove(root, key, name);
-    }
-    bool Exchange(RegistryRoot root, std::u16string_view key, std::span<const RegistryAssignment> expected,
-                  std::span<const RegistryAssignment> changes) override {
-        return m_fate.Allows() && m_registry.Exchange(root, key, expected, changes);
-    }
-    std::vector<RegistryEntry> List() override { return m_registry.List(); }
-
-private:
-    IRegistry& m_registry;
-    Fate& m_fate;
-};
 
 std::string Line(const std::string& name) {
     return "Z;" + name + ";L;1;2;3;0;0;0;0;0\n";
@@ -81,9 +28,9 @@ std::string Line(const std::string& name) {
 /// One start of the program on a device whose files and store outlast it.
 class CRun {
 public:
-    CRun(const std::filesystem::path& store, CFatedFiles& files, Fate& fate)
+    CRun(const std::filesystem::path& store, CMemoryFileSystem& files, CFailurePlan& plan)
         : m_store(OpenDeviceStore(store, m_clock).store),
-          m_registry(m_store->Registry(), fate),
+          m_registry(m_store->Registry(), plan),
           cities(m_store->Objects(), files, m_boxes, m_texts, "/app/cities.lst"),
           lists(m_store->Objects(), m_registry, files, cities, "/app/cities.lst"),
           settings(m_store->Registry()) {}
@@ -110,7 +57,7 @@ public:
 private:
     CFixedClock m_clock;
     std::unique_ptr<CDeviceStore> m_store;
-    CFatedRegistry m_registry;
+    CFailingRegistry m_registry;
     CScriptedMessageBoxes m_boxes;
     const CResources m_texts;
 
@@ -124,7 +71,7 @@ class CityListStore : public ::testing::Test {
 protected:
     void SetUp() override { Reset(); }
     void Reset() {
-        fate = {};
+        plan = {};
         ++m_store;
         files.files["/app/cities.lst"] = "4\n" + Line("B") + Line("D") + Line("F") + Line("H");
         CRun run = Start();
@@ -137,11 +84,11 @@ protected:
         run.settings.WriteString(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kHomeName, u"D");
         run.settings.WriteString(RootOf(keys::kAlarms), keys::kAlarms, names::kAlarmCities[2], u"D:L");
     }
-    CRun Start() { return CRun(folder / ("device" + std::to_string(m_store)), files, fate); }
+    CRun Start() { return CRun(folder / ("device" + std::to_string(m_store)), files, plan); }
 
     test::CTempFolder folder;
-    Fate fate;
-    CFatedFiles files{fate};
+    CFailurePlan plan;
+    CMemoryFileSystem files{plan};
 
 private:
     int m_store = 0;
@@ -176,14 +123,14 @@ TEST_F(CityListStore, SurvivesDeathAtEveryWrite) {
     int deaths = 0;
     for (bool died = true; died; ++deaths) {
         Reset();
-        fate = {.dieAt = deaths + 1};
+        plan.DieAt(deaths + 1);
         died = false;
         try {
             Start().lists.Change(EditAll);
-        } catch (const Killed&) {
+        } catch (const CFailurePlan::Died&) {
             died = true;
         }
-        fate = {};
+        plan = {};
         CRun next = Start();
         EXPECT_EQ(next.Choices(), died ? kBefore : kAfter) << deaths;
         next.lists.Finish();
@@ -199,7 +146,7 @@ TEST_F(CityListStore, LeavesAllAsItWasWhenRefused) {
     for (int n = 1; n <= 3; ++n) {
         Reset();
         const std::string before = files.files["/app/cities.lst"];
-        fate = {.refuseAt = n};
+        plan.FailAt(n);
         CRun run = Start();
         EXPECT_EQ(run.lists.Change(EditAll).state, CityListChange::kNotSaved) << n;
         EXPECT_EQ(run.Choices(), kBefore) << n;
@@ -213,12 +160,12 @@ TEST_F(CityListStore, DefaultsThatAreNotStoredStayOnTheirCity) {
     for (int i = 1000; i < 2000; ++i)
         list += Line("C" + std::to_string(i));
     files.files["/app/cities.lst"] = list;
-    CRun(folder / "fresh", files, fate).lists.Change([](CityList& cities, std::vector<CityRename>&) {
+    CRun(folder / "fresh", files, plan).lists.Change([](CityList& cities, std::vector<CityRename>&) {
         cities.cities.insert(cities.cities.begin() + 700, cities.cities[0]);
         cities.cities[700].name = u"C1699b";
         return true;
     });
-    CRun run(folder / "fresh", files, fate);
+    CRun run(folder / "fresh", files, plan);
     const ClockSettings clocks = LoadClockSettings(run.settings);
     EXPECT_EQ(clocks, (ClockSettings{0, {684, 757, 565, 989}, 0}));
 }
@@ -227,7 +174,7 @@ TEST_F(CityListStore, RefreshWritesRulesOfKnownZonesAndTheirDate) {
     files.files["/app/cities.lst"] = "2\nZ;A;L;1;2;3;0;0;0;0;0\r\n-;B;L;1;2;3;1;9;9;9;9\n";
     CFixedTimeZones zones;
     zones.zones["Z"] = {{0, 7200}};
-    CRun run(folder / "refresh", files, fate);
+    CRun run(folder / "refresh", files, plan);
     const RulesRefresh refresh = RefreshRules(run.lists, zones, files, "/app", {2027, 1, 1});
     EXPECT_EQ(refresh.changed, 1U);
     EXPECT_EQ(refresh.kept, 1U);

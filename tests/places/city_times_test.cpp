@@ -97,16 +97,6 @@ TEST_F(CityTimes, HomeClockShowsTheDeviceUnlessSynchronised) {
     }
 }
 
-TEST_F(CityTimes, ReferenceIsDecidedToTheHour) {
-    CCityTimes times = Times({kParis, {}, 0});
-    EXPECT_EQ(times.Reference(At("2026-03-29 01:59:59")), (ClockOffset{1, 0}));
-    EXPECT_EQ(times.Reference(At("2026-03-29 02:00:00")), (ClockOffset{2, 0}));
-    EXPECT_EQ(times.Reference(At("2026-10-25 03:00:00")), (ClockOffset{2, 0}));
-    EXPECT_EQ(times.Reference(At("2026-10-25 03:00:01")), (ClockOffset{1, 0}));
-    clock.SetBias(-330);
-    EXPECT_EQ(Times({kParis, {}, 7}).Reference(At("2026-07-01 00:00:00")), (ClockOffset{5, -30}));
-}
-
 TEST_F(CityTimes, ReadsAllFiveClocks) {
     CCityTimes times = Times({kLondon, {kSydney, kParis, kNobody, kKolkata}, 0});
     const auto readings = times.AllClocks(At("2026-02-28 20:05:09"));

@@ -2,17 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <iostream>
-#include <map>
-
 #include "base/text.h"
-#include "places/city_list.h"
-#include "places/rules_date.h"
 #include "platform/cctz/cctz_time_zones.h"
 #include "platform/fake/fixed_time_zones.h"
-#include "platform/posix/posix_file_system.h"
-#include "support/paths.h"
 
 namespace rlx {
 namespace {
@@ -70,25 +62,6 @@ TEST(ZoneRule, IsTheOneThatFitsTheYearBest) {
         EXPECT_EQ(Text(RuleOfZone(zones, "Z", row.day)), row.rule) << row.name;
     }
     EXPECT_EQ(Text(RuleOfZone(zones, "Y", {2026, 1, 1})), "nothing");
-}
-
-/// The system's tz database may be of another year than the one that the shipped list was made from.
-TEST(ZoneRule, AgreesWithTheShippedList) {
-    CPosixFileSystem files;
-    const auto list = ReadCityList(files, std::filesystem::path(test::kDataDir) / "cities.lst");
-    const auto day = ReadRulesDate(files, test::kDataDir);
-    ASSERT_TRUE(list && day);
-    CCctzTimeZones zones;
-    std::map<std::u16string, bool> agrees;
-    for (const CityFields& city : list->cities) {
-        const auto rule = RuleOfZone(zones, ToUtf8(city.zone), *day);
-        const bool same = rule && rule->gmt == city.gmt && rule->dst == city.dst;
-        const auto [entry, isNew] = agrees.emplace(city.zone, same);
-        if (isNew && !same) std::cout << ToUtf8(city.zone) << " differs: " << Text(rule) << '\n';
-    }
-    const auto same = std::count_if(agrees.begin(), agrees.end(), [](const auto& zone) { return zone.second; });
-    EXPECT_GT(agrees.size(), 300U);
-    EXPECT_GE(static_cast<std::size_t>(same) * 100, agrees.size() * 95);
 }
 
 TEST(TimeZones, StayWithinTheFolderOfZones) {

@@ -1,12 +1,12 @@
 #include "shell/application_folder.h"
 
-#include "support/memory_files.h"
+#include "platform/fake/memory_file_system.h"
 
 namespace rlx {
 namespace {
 
 TEST(ApplicationFolderTest, DeviceNamesBecomeHostPaths) {
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     for (const char* name : {"/app/cities.lst", "/app/Portrait/dial.jpg", "/app/portrait/map.jpg", "/app/Grün/ä.skn"}) {
         files.files[name] = "";
     }
@@ -40,7 +40,7 @@ TEST(ApplicationFolderTest, DeviceNamesBecomeHostPaths) {
 }
 
 TEST(ApplicationFolderTest, NamesThatLeadOutsideAreRefused) {
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     files.files["/app/a/b"] = "";
     files.files["/etc/passwd"] = "";
     const CApplicationFolder folder(files, "/app");
@@ -75,7 +75,7 @@ struct Installed : public testing::Test {
         files.readOnly = {"/usr/bin", "/usr/share/roamlytix"};
         files.folders = {"/home/u"};
     }
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     FolderSources sources{"", "", "/usr/bin", "/home/u/roamlytix", "/usr/share/roamlytix"};
 };
 

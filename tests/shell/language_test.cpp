@@ -81,21 +81,21 @@ TEST(LanguageListTest, AddedLanguageKeepsWhatAHandWrote) {
 class Languages : public testing::Test {
 protected:
     Languages() {
-        files.Put("/app/langs.dat", kList);
-        files.Put("/app/LangsRes/RoamlyGood.dll", Module());
-        files.Put("/app/LangsRes/RoamlyBad.dll", "MZ");
-        files.Put("/app/RoamlyAbove.dll", Module());
-        files.Put("/card/RoamlyNew.dll", Module());
-        files.Put("/card/RoamlyBad.dll", Module().substr(0, 3000));
-        files.Put("/card/roamlynumbers.DLL", Module());
-        files.Put("/card/RoamlyNew.dll.bak", "");
-        files.Put("/card/Roamly.txt", "");
-        files.Put("/card/MyRoamlyNew.dll", "");
-        files.Put("/card/RoamlyA,B.dll", Module());
-        files.Put("/card/RoamlyA@B.dll", Module());
-        files.Put("/card/RoamlyA>B.dll", Module());
-        files.Put("/card/Roamly.dll", Module());
-        files.Put("/card/RoamlyHuge.dll", Module() + std::string(std::size_t{4} << 20U, ' '));
+        files.files["/app/langs.dat"] = kList;
+        files.files["/app/LangsRes/RoamlyGood.dll"] = Module();
+        files.files["/app/LangsRes/RoamlyBad.dll"] = "MZ";
+        files.files["/app/RoamlyAbove.dll"] = Module();
+        files.files["/card/RoamlyNew.dll"] = Module();
+        files.files["/card/RoamlyBad.dll"] = Module().substr(0, 3000);
+        files.files["/card/roamlynumbers.DLL"] = Module();
+        files.files["/card/RoamlyNew.dll.bak"] = "";
+        files.files["/card/Roamly.txt"] = "";
+        files.files["/card/MyRoamlyNew.dll"] = "";
+        files.files["/card/RoamlyA,B.dll"] = Module();
+        files.files["/card/RoamlyA@B.dll"] = Module();
+        files.files["/card/RoamlyA>B.dll"] = Module();
+        files.files["/card/Roamly.dll"] = Module();
+        files.files["/card/RoamlyHuge.dll"] = Module() + std::string(std::size_t{4} << 20U, ' ');
     }
 
     LanguageState Start(std::uint32_t lang) { return StartLanguage(files, folder, lang).state; }
@@ -152,7 +152,7 @@ TEST_F(Languages, StartKnowsWhatToDo) {
 }
 
 TEST_F(Languages, FilesThatLookLikeModulesAreListed) {
-    files.Put("/card/ROAMLYgood.dll", "");
+    files.files["/card/ROAMLYgood.dll"] = "";
     std::string lines;
     for (const ModuleFile& file : ListModules(files, "/card", *ReadLanguageList(files, folder, texts)))
         lines += ToUtf8(file.name) + (file.installed ? " (installed)\n" : "\n");
@@ -163,7 +163,7 @@ TEST_F(Languages, FilesThatLookLikeModulesAreListed) {
 }
 
 TEST_F(Languages, RefusedModulesChangeNothing) {
-    files.Put("/card/RoamlyBroken.dll", Module().substr(0, 3000));
+    files.files["/card/RoamlyBroken.dll"] = Module().substr(0, 3000);
     const struct {
         const char* name;
         const char16_t* module;
@@ -203,7 +203,7 @@ TEST_F(Languages, InstalledModuleIsCopiedOrMovedAndListed) {
 }
 
 TEST_F(Languages, ModuleFolderItselfIsOnlyListed) {
-    files.Put("/app/LangsRes/RoamlyNew.dll", Module());
+    files.files["/app/LangsRes/RoamlyNew.dll"] = Module();
     EXPECT_EQ(Install(u"RoamlyNew.dll", true, "/app/./LangsRes", u"RoamlyNew.dll"), InstallOutcome::kInUse);
     EXPECT_EQ(List(), kList);
     EXPECT_EQ(Install(u"RoamlyNew.dll", true, "/app/./LangsRes"), InstallOutcome::kInstalled);
@@ -213,7 +213,7 @@ TEST_F(Languages, ModuleFolderItselfIsOnlyListed) {
 
 /// Each write in turn is refused: of the module, the list, the removal.
 TEST_F(Languages, FailedWritesLeaveEverythingAsItWas) {
-    files.Put("/app/LangsRes/RoamlyNew.dll", "not listed");
+    files.files["/app/LangsRes/RoamlyNew.dll"] = "not listed";
     for (int write = 1; write <= 2; ++write) {
         writes.FailAt(write);
         EXPECT_EQ(Install(u"RoamlyNew.dll", true), InstallOutcome::kNotSaved) << write;
@@ -228,10 +228,10 @@ TEST_F(Languages, FailedWritesLeaveEverythingAsItWas) {
 }
 
 TEST_F(Languages, FoldersThatCannotBeWrittenAreNamed) {
-    files.MakeReadOnly("/card");
+    files.readOnly.insert("/card");
     EXPECT_EQ(Install(u"RoamlyNew.dll", true), InstallOutcome::kNotRemovable);
     EXPECT_FALSE(files.IsFile("/app/LangsRes/RoamlyNew.dll"));
-    files.MakeReadOnly("/app");
+    files.readOnly.insert("/app");
     EXPECT_EQ(Install(u"RoamlyNew.dll"), InstallOutcome::kNotSaved);
     EXPECT_FALSE(files.IsFile("/app/LangsRes/RoamlyNew.dll"));
     EXPECT_EQ(List(), kList);

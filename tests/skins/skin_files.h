@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "platform/fake/memory_file_system.h"
 #include "skins/skin_schema.h"
-#include "support/memory_files.h"
 
 namespace rlx::test {
 
@@ -49,8 +49,8 @@ inline std::string SoundSkin() {
 }
 
 /// A folder "/skins" with `text` as "mine.skn" and the pictures of `SoundSkin`.
-inline CMemoryFiles FilesWith(const std::string& text) {
-    CMemoryFiles files;
+inline CMemoryFileSystem FilesWith(const std::string& text) {
+    CMemoryFileSystem files;
     files.files["/skins/mine.skn"] = text;
     for (const char* folder : {"P", "L", "S"})
         files.files[std::filesystem::path("/skins") / folder / "pic.jpg"] = "picture";

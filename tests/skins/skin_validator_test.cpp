@@ -59,7 +59,7 @@ TEST(SkinValidator, BrokenSkins) {
 }
 
 TEST(SkinValidator, RunsAllChecks) {
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     EXPECT_EQ(ValidateSkin(files, "/skins/mine.skn"), (std::vector<SkinFault>{{Kind::kFileNotOpened, {}, {}, {}}}));
     files.files["/skins/mine.skn"] = "";
     EXPECT_EQ(ValidateSkin(files, "/skins/mine.skn").size(), kSkinSectionNames.size());

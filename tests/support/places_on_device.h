@@ -2,13 +2,13 @@
 
 #include "places/city_database.h"
 #include "platform/fake/fixed_clock.h"
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_object_store.h"
 #include "platform/fake/memory_registry.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "shell/registry_store.h"
 #include "shell/resources.h"
 #include "shell/setting_names.h"
-#include "support/memory_files.h"
 
 namespace rlx::test {
 
@@ -34,7 +34,7 @@ struct PlacesOnDevice {
         settings.WriteDword(RootOf(keys::kWorldClock), keys::kWorldClock, name, value);
     }
 
-    CMemoryFiles files;
+    CMemoryFileSystem files;
     CMemoryObjectStore store;
     CMemoryRegistry registry;
     CScriptedMessageBoxes boxes;

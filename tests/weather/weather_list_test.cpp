@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/memory_files.h"
+#include "platform/fake/memory_file_system.h"
 
 namespace rlx {
 namespace {
@@ -37,12 +37,12 @@ TEST(WeatherList, FollowsTheListOfCities) {
          "2\nBern;Switzerland;b\nA;B;a_b\n>\nnote"},
     };
     for (const auto& row : rows) {
-        test::CMemoryFiles files;
+        CMemoryFileSystem files;
         files.files["/cities.wet"] = row.list;
         EXPECT_TRUE(FollowCityChange(files, "/cities.wet", row.change)) << row.name;
         EXPECT_EQ(files.files["/cities.wet"], row.after) << row.name;
     }
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     EXPECT_FALSE(FollowCityChange(files, "/cities.wet", {{}, u"A:B"}));
     files.files["/cities.wet"] = two;
     files.readOnly.insert("/cities.wet");

@@ -1,7 +1,7 @@
 #include "weather/weather_settings.h"
 
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_registry.h"
-#include "support/memory_files.h"
 #include "weather/icon_set.h"
 
 namespace rlx {
@@ -59,7 +59,7 @@ TEST_F(WeatherSettings, EachTipComesOnce) {
 }
 
 TEST(IconSet, IsTheUsersElseTheSkinsElseTheDefault) {
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     for (const char* file : {"/app/wiconset/fog.png", "/app/wiconset/not-available.png", "/app/wiconsets/Line/fog.png",
                              "/app/skins/Night/icons/fog.png", "/secret/fog.png"})
         files.files[file] = "x";

@@ -4,8 +4,8 @@
 #include <iterator>
 
 #include "base/text.h"
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_object_store.h"
-#include "support/memory_files.h"
 #include "support/paths.h"
 #include "weather/replies.h"
 
@@ -38,7 +38,7 @@ protected:
     }
 
     CMemoryObjectStore m_objects;
-    test::CMemoryFiles m_files;
+    CMemoryFileSystem m_files;
 };
 
 TEST_F(WeatherStore, IsFilledOnceFromTheList) {

@@ -2,10 +2,10 @@
 
 #include <map>
 
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_object_store.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "shell/resources.h"
-#include "support/memory_files.h"
 #include "weather/replies.h"
 
 namespace rlx {
@@ -48,7 +48,7 @@ protected:
     }
 
     CMemoryObjectStore m_objects;
-    test::CMemoryFiles m_files{};
+    CMemoryFileSystem m_files{};
     CWeatherStore m_store{m_objects, m_files, "/app/cities.wet"};
     CScriptedMessageBoxes m_boxes;
     CResources m_texts;

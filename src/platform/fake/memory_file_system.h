@@ -8,18 +8,16 @@
 
 namespace rlx {
 
-/// Files in memory, below absolute paths. Folders exist once they are created or a file is put below them; "/" always
-/// does. Writes, copies, moves, removals and new folders are refused as the plan says.
+/// Files in memory, by plain absolute paths ("/a/b", case-sensitive). A folder exists once it is created or a file is
+/// put below it; "/" always does. Writes, copies, moves, removals and new folders are refused as the plan says.
 class CMemoryFileSystem : public IFileSystem {
 public:
     CMemoryFileSystem() = default;
     explicit CMemoryFileSystem(CFailurePlan& writes) : m_writes(&writes) {}
 
-    /// Puts a file there, folders included, whatever the plan says.
-    void Put(const std::filesystem::path& file, std::string bytes);
-
-    /// From now on no file can be made in this folder.
-    void MakeReadOnly(const std::filesystem::path& folder);
+    std::map<std::filesystem::path, std::string> files;  ///< to be changed whatever the plan says
+    std::set<std::filesystem::path> folders{"/"};        ///< those that exist without files
+    std::set<std::filesystem::path> readOnly;            ///< folders in which no file can be made, and single files
 
     std::unique_ptr<IByteStream> OpenRead(const std::filesystem::path& file) override;
     std::optional<std::string> ReadFile(const std::filesystem::path& file, std::size_t limit) override;
@@ -37,12 +35,8 @@ public:
 private:
     bool Allows() { return m_writes == nullptr || m_writes->Allows(); }
     bool CanHold(const std::filesystem::path& file);
-    void AddFolders(std::filesystem::path folder);
 
     CFailurePlan* m_writes = nullptr;
-    std::map<std::filesystem::path, std::string> m_files;
-    std::set<std::filesystem::path> m_folders{"/"};
-    std::set<std::filesystem::path> m_readOnly;
 };
 
 }  // namespace rlx

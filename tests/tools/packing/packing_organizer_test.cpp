@@ -4,8 +4,8 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/scripted_message_boxes.h"
-#include "support/memory_files.h"
 #include "support/number_texts.h"
 #include "tools/packing/packing_templates.h"
 #include "tools/packing/text_ids.h"
@@ -13,13 +13,16 @@
 namespace rlx {
 namespace {
 
-const std::filesystem::path kFile = "home/pack.dat";
-const std::filesystem::path kBackup = "home/pack.dat.bak";
+const std::filesystem::path kFile = "/home/pack.dat";
+const std::filesystem::path kBackup = "/home/pack.dat.bak";
 const std::string kEmptyFile = ">\r\nAll\r\n*\r\nAll Items\r\n<";
 
 class PackingOrganizerTest : public testing::Test {
 protected:
-    PackingOrganizerTest() { m_pack.Load(); }
+    PackingOrganizerTest() {
+        m_folder.CreateFolder("/home");
+        m_pack.Load();
+    }
 
     void LoadBytes(const std::string& bytes) {
         m_folder.files[kFile] = bytes;
@@ -48,10 +51,10 @@ protected:
         return text;
     }
 
-    test::CMemoryFiles m_folder;
+    CMemoryFileSystem m_folder;
     test::CNumberTexts m_texts;
     CScriptedMessageBoxes m_boxes;
-    CPackingOrganizer m_pack{m_folder, "home", m_texts, m_boxes};
+    CPackingOrganizer m_pack{m_folder, "/home", m_texts, m_boxes};
 };
 
 TEST_F(PackingOrganizerTest, ItemStandsInAllItemsOnce) {

@@ -6,13 +6,13 @@
 #include <QTest>
 
 #include "platform/fake/fixed_clock.h"
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_object_store.h"
 #include "platform/fake/memory_registry.h"
 #include "platform/image/image_codec.h"
 #include "shell/registry_store.h"
 #include "shell/resources.h"
 #include "shell/setting_names.h"
-#include "support/memory_files.h"
 
 namespace rlx {
 namespace {
@@ -63,7 +63,7 @@ protected:
         settings.WriteString(RootOf(keys::kCurrencies), keys::kCurrencies, names::kRatesSource, source);
     }
 
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     CImageCodec codec;
     CLook look{files, codec};
     CResources resources;

@@ -5,13 +5,13 @@
 #include <QTest>
 
 #include "platform/fake/fixed_clock.h"
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_registry.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "platform/image/image_codec.h"
 #include "shell/registry_store.h"
 #include "shell/resources.h"
 #include "shell/setting_names.h"
-#include "support/memory_files.h"
 #include "support/scripted_server.h"
 
 namespace rlx {
@@ -32,7 +32,7 @@ protected:
         settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, name, value);
     }
 
-    test::CMemoryFiles files;
+    CMemoryFileSystem files;
     CImageCodec codec;
     CLook look{files, codec};
     CResources resources;

@@ -6,11 +6,11 @@
 #include <QTest>
 #include <QTreeView>
 
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "platform/image/image_codec.h"
 #include "shell/command_ids.h"
 #include "shell/control_ids.h"
-#include "support/memory_files.h"
 #include "tools/packing/text_ids.h"
 #include "tools/packing/ui/add_items_dialog.h"
 #include "tools/packing/ui/packing_dialogs.h"
@@ -81,7 +81,7 @@ protected:
 
     QString Packed() { return Find<QLabel>("packed").text(); }
 
-    test::CMemoryFiles m_files;
+    CMemoryFileSystem m_files;
     CResources m_resources;
     CScriptedMessageBoxes m_boxes;
     CImageCodec m_codec;

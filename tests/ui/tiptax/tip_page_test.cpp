@@ -4,10 +4,10 @@
 
 #include <QTest>
 
+#include "platform/fake/memory_file_system.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "platform/image/image_codec.h"
 #include "shell/resources.h"
-#include "support/memory_files.h"
 
 namespace rlx {
 namespace {
@@ -32,7 +32,7 @@ protected:
 
     QString Text(const char* label) { return Find<QLabel>(label).text(); }
 
-    test::CMemoryFiles m_files;
+    CMemoryFileSystem m_files;
     CResources m_resources;
     CScriptedMessageBoxes m_boxes;
     CImageCodec m_codec;
