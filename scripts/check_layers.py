@@ -16,7 +16,7 @@ RESTRICTED = {
     "sqlite3": re.compile(r"^sqlite3"),
     "curl": re.compile(r"^curl/"),
     "cctz": re.compile(r"^cctz/"),
-    "png": re.compile(r"^png\.h$"),
+    "png": re.compile(r"^(png|zlib)\.h$"),
     "jpeg": re.compile(r"^jpeglib\.h$"),
     "json": re.compile(r"^nlohmann/"),
     "xml": re.compile(r"^pugixml"),

@@ -13,6 +13,11 @@ Record RecordOf(std::u16string_view name, std::u16string_view code, std::u16stri
             {PROP_CURRENCY_RATE, std::u16string(rate)}};
 }
 
+CurrencyEntry EntryOf(const Record& record) {
+    return {PropertyText(record, PROP_CURRENCY_CODE), PropertyText(record, PROP_CURRENCY_NAME),
+            PropertyText(record, PROP_CURRENCY_RATE)};
+}
+
 }  // namespace
 
 CCurrencyDatabase::CCurrencyDatabase(IObjectStore& store) : m_store(store) {}
@@ -46,15 +51,14 @@ std::optional<CurrencyEntry> CCurrencyDatabase::At(std::size_t position) {
     if (!m_database) return std::nullopt;
     const std::optional<RecordId> id = m_database->SeekPosition(PROP_CURRENCY_NAME, position);
     const std::optional<Record> record = id ? m_database->Read(*id) : std::nullopt;
-    if (!record) return std::nullopt;
-    return CurrencyEntry{PropertyText(*record, PROP_CURRENCY_CODE), PropertyText(*record, PROP_CURRENCY_NAME),
-                         PropertyText(*record, PROP_CURRENCY_RATE)};
+    return record ? std::optional(EntryOf(*record)) : std::nullopt;
 }
 
 CurrencyList CCurrencyDatabase::All() {
     CurrencyList all;
-    for (std::optional<CurrencyEntry> entry = At(0); entry; entry = At(all.size()))
-        all.push_back(std::move(*entry));
+    if (!m_database) return all;
+    for (const Record& record : m_database->Records(PROP_CURRENCY_NAME))
+        all.push_back(EntryOf(record));
     return all;
 }
 

@@ -16,6 +16,14 @@ std::u16string PropertyText(const Record& record, PropertyId id) {
     return found == record.end() ? std::u16string() : found->text;
 }
 
+std::vector<Record> IRecordDatabase::Records(PropertyId sortProperty) {
+    std::vector<Record> records;
+    for (std::size_t at = 0; const auto id = SeekPosition(sortProperty, at); ++at) {
+        if (auto record = Read(*id)) records.push_back(*std::move(record));
+    }
+    return records;
+}
+
 std::vector<std::u16string> IRecordDatabase::Texts(PropertyId sortProperty) {
     std::vector<std::u16string> texts;
     while (const auto id = SeekPosition(sortProperty, texts.size())) {

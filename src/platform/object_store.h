@@ -54,6 +54,9 @@ public:
 
     virtual std::optional<Record> Read(RecordId record) = 0;
 
+    /// All records in that sort order, in one pass; empty when the database has no such sort order.
+    virtual std::vector<Record> Records(PropertyId sortProperty);
+
     /// That property of all records in its sort order, in one pass; empty when the database has no such sort order.
     virtual std::vector<std::u16string> Texts(PropertyId sortProperty);
 

@@ -31,6 +31,10 @@ protected:
             EXPECT_EQ(db.PositionOf(sort, *id), i);
             all += PropertyText(db.Read(*id).value(), kName) + u" ";
         }
+        std::u16string atOnce;
+        for (const Record& record : db.Records(sort))
+            atOnce += PropertyText(record, kName) + u" ";
+        EXPECT_EQ(atOnce, all);
         return all;
     }
 

@@ -85,7 +85,7 @@ def write_jpeg(picture, path, look):
     for quality in (95, 92, 90, 88, 85, 82, 78, 74):
         for margin in range(1, 12):
             held = np.clip(np.rint(picture), low + margin, high - margin).astype(np.uint8)
-            Image.fromarray(held).save(path, quality=quality, subsampling=0, optimize=True, progressive=True)
+            Image.fromarray(held).save(path, quality=quality, subsampling=0, optimize=True)
             back = np.asarray(Image.open(path))
             if (back >= low).all() and (back <= high).all():
                 break

@@ -50,7 +50,7 @@ class Canvas:
         """A trace of fixed noise hides the steps of 8 bits; it is too weak to be seen."""
         noise = np.random.default_rng(1).uniform(-.5, .5, self._rgb.shape[:2])[..., None]
         pixels = np.clip(np.rint(self._rgb + noise), 0, 255).astype(np.uint8)
-        Image.fromarray(pixels).save(path, quality=90, subsampling=0, optimize=True, progressive=True)
+        Image.fromarray(pixels).save(path, quality=90, subsampling=0, optimize=True)
 
 
 def ring(x, y, radius):

@@ -67,17 +67,39 @@ std::optional<Record> CSqliteRecordDatabase::Read(RecordId record) {
     return DecodeRecord(statement.Bytes(0));
 }
 
-std::vector<std::u16string> CSqliteRecordDatabase::Texts(PropertyId sortProperty) {
-    const CRecordIndex* index = Index(sortProperty);
-    if (index == nullptr) return {};
-    std::vector<std::u16string> texts(index->Count());
+template <typename Visit>
+void CSqliteRecordDatabase::ForEach(const CRecordIndex& index, const Visit& visit) {
     CStatement statement = m_connection.Prepare("SELECT id, properties FROM record WHERE database = ? ORDER BY id");
     statement.Bind(1, m_state.number);
     while (statement.NextRow()) {
         // A record that another process added meanwhile has no place yet.
-        const auto position = index->PositionOf(statement.Integer(0));
-        if (position) texts[*position] = DecodeText(EncodedProperty(statement.Bytes(1), sortProperty));
+        const auto position = index.PositionOf(statement.Integer(0));
+        if (position) visit(*position, statement.Bytes(1));
     }
+}
+
+std::vector<Record> CSqliteRecordDatabase::Records(PropertyId sortProperty) {
+    const CRecordIndex* index = Index(sortProperty);
+    if (index == nullptr) return {};
+    std::vector<Record> records(index->Count());
+    std::size_t unread = records.size();
+    ForEach(*index, [&](std::size_t position, std::string_view properties) {
+        if (auto record = DecodeRecord(properties)) {
+            records[position] = *std::move(record);
+            --unread;
+        }
+    });
+    if (unread > 0) std::erase(records, Record());
+    return records;
+}
+
+std::vector<std::u16string> CSqliteRecordDatabase::Texts(PropertyId sortProperty) {
+    const CRecordIndex* index = Index(sortProperty);
+    if (index == nullptr) return {};
+    std::vector<std::u16string> texts(index->Count());
+    ForEach(*index, [&](std::size_t position, std::string_view properties) {
+        texts[position] = DecodeText(EncodedProperty(properties, sortProperty));
+    });
     return texts;
 }
 

@@ -26,6 +26,7 @@ public:
     std::optional<RecordId> SeekValue(PropertyId sortProperty, std::u16string_view value) override;
     std::optional<std::size_t> PositionOf(PropertyId sortProperty, RecordId record) override;
     std::optional<Record> Read(RecordId record) override;
+    std::vector<Record> Records(PropertyId sortProperty) override;
     std::vector<std::u16string> Texts(PropertyId sortProperty) override;
     std::optional<RecordId> Add(const Record& record) override;
     bool Overwrite(RecordId record, const Record& properties) override;
@@ -47,6 +48,10 @@ private:
     bool ResolveForWrite();
     const CRecordIndex* Index(PropertyId sortProperty);
     std::optional<CRecordIndex> BuildIndex(PropertyId sortProperty);
+    /// Calls `visit(position in the index, encoded properties)` for all records.
+    template <typename Visit>
+    void ForEach(const CRecordIndex& index, const Visit& visit);
+
     std::optional<std::string> Key(RecordId record, PropertyId sortProperty);
     bool Insert(RecordId record, const std::string& properties);
     bool Update(RecordId record, const std::string& properties);

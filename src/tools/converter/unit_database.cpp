@@ -51,14 +51,11 @@ bool CUnitDatabase::Seed() {
 std::vector<UnitRecord> CUnitDatabase::ReadAll() {
     std::vector<UnitRecord> rows;
     if (!m_database) return rows;
-    for (std::size_t at = 0;; ++at) {
-        const std::optional<RecordId> id = m_database->SeekPosition(PROP_UNIT_CATEGORY, at);
-        if (!id) return rows;
-        const std::optional<Record> record = m_database->Read(*id);
-        if (!record) continue;
-        rows.push_back({PropertyText(*record, PROP_UNIT_CATEGORY), PropertyText(*record, PROP_UNIT_NAME),
-                        PropertyText(*record, PROP_UNIT_FACTOR)});
+    for (const Record& record : m_database->Records(PROP_UNIT_CATEGORY)) {
+        rows.push_back({PropertyText(record, PROP_UNIT_CATEGORY), PropertyText(record, PROP_UNIT_NAME),
+                        PropertyText(record, PROP_UNIT_FACTOR)});
     }
+    return rows;
 }
 
 UnitChange CUnitDatabase::Add(std::size_t category, std::u16string_view name, std::u16string_view factor) {

@@ -55,7 +55,6 @@ void CDialingTool::MakeControls() {
     m_field->setObjectName("dialingFind");
     m_field->setMinimumSize(kFieldWidth, kControlHeight);
     m_field->setAccessibleName(ToQString(m_texts.Text(kTextSearch)));
-    m_field->setClearButtonEnabled(true);
     m_field->installEventFilter(this);
     for (const DialingTable table : {DialingTable::kInternational, DialingTable::kUs}) {
         m_selector->addItem(ToQString(m_texts.Text(DialingTableName(table))));
