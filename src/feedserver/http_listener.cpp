@@ -6,17 +6,16 @@
 #include <sys/socket.h>
 
 #include <cerrno>
-#include <chrono>
 #include <cstring>
-#include <map>
 #include <memory>
-#include <mutex>
 #include <new>
 #include <utility>
 
 #include "base/iso_day.h"
 #include "base/text.h"
+#include "feedserver/request_deadlines.h"
 #include "feedserver/session_id.h"
+#include "feedserver/sleepers.h"
 
 namespace rlx {
 
@@ -25,9 +24,8 @@ namespace {
 /// What has come of one request so far.
 struct Incoming {
     std::string body;
-    bool tooLarge = false;
+    std::size_t received = 0;
     bool hasWaited = false;  ///< for a source; it is answered now, whatever there is
-    std::chrono::steady_clock::time_point begun = std::chrono::steady_clock::now();
 };
 
 struct Outgoing {
@@ -37,7 +35,8 @@ struct Outgoing {
     int code = 0;  ///< of the feed protocol, for the log
 };
 
-constexpr std::chrono::seconds kLongestUpload{30};
+/// So much of a body that is too large is read, to answer a client that only erred; then it is dropped.
+constexpr std::size_t kMostDiscarded = 1 << 20;
 
 MHD_Result Queue(MHD_Connection* connection, const Outgoing& out) {
     MHD_Response* response = MHD_create_response_from_buffer(out.body.size(), const_cast<char*>(out.body.data()),
@@ -88,6 +87,10 @@ std::string ClientOf(MHD_Connection* connection) {
     return text;
 }
 
+int SocketOf(MHD_Connection* connection) {
+    return MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CONNECTION_FD)->connect_fd;
+}
+
 /// A path as it may stand in a log: no control characters, not endless.
 std::string Printable(std::string_view text) {
     std::string clean(text.substr(0, 80));
@@ -110,40 +113,6 @@ bool SocketAddressOf(const ListenAddress& address, sockaddr_storage& storage) {
     six->sin6_port = htons(address.port);
     return true;
 }
-
-/// The connections that wait for a source. Those who wake them may outlive the listener, so it is shared with them.
-class CSleepers {
-public:
-    /// Puts a connection to sleep unless `ask` says no. What `ask` begins can wake it only after that. False: it is
-    /// awake.
-    bool Sleep(MHD_Connection* connection, const std::function<bool(std::uint64_t)>& ask) {
-        const std::lock_guard lock(m_mutex);
-        if (m_closed || !ask(m_next)) return false;
-        MHD_suspend_connection(connection);
-        m_asleep.emplace(m_next++, connection);
-        return true;
-    }
-
-    void Wake(std::uint64_t number) {
-        const std::lock_guard lock(m_mutex);
-        if (const auto found = m_asleep.extract(number)) MHD_resume_connection(found.mapped());
-    }
-
-    /// Wakes all and lets no other fall asleep.
-    void Close() {
-        const std::lock_guard lock(m_mutex);
-        m_closed = true;
-        for (const auto& [number, connection] : m_asleep)
-            MHD_resume_connection(connection);
-        m_asleep.clear();
-    }
-
-private:
-    std::mutex m_mutex;
-    std::map<std::uint64_t, MHD_Connection*> m_asleep;
-    std::uint64_t m_next = 0;
-    bool m_closed = false;
-};
 
 }  // namespace
 
@@ -169,9 +138,11 @@ public:
             {MHD_OPTION_CONNECTION_TIMEOUT, static_cast<intptr_t>(m_limits.idleSeconds), nullptr},
             {MHD_OPTION_CONNECTION_MEMORY_LIMIT, static_cast<intptr_t>(m_limits.connectionBytes), nullptr},
             {MHD_OPTION_END, 0, nullptr}};
-        m_daemon = MHD_start_daemon(flags | MHD_USE_AUTO_INTERNAL_THREAD | MHD_ALLOW_SUSPEND_RESUME, 0, nullptr,
+        // Not by epoll: up to 0.9.75 at least, the library falls asleep over 128 events that come at once.
+        m_daemon = MHD_start_daemon(flags | MHD_USE_POLL_INTERNAL_THREAD | MHD_ALLOW_SUSPEND_RESUME, 0, nullptr,
                                     nullptr, &CService::OnRequest, this, MHD_OPTION_NOTIFY_COMPLETED,
-                                    &CService::OnCompleted, this, MHD_OPTION_ARRAY, options, MHD_OPTION_END);
+                                    &CService::OnCompleted, this, MHD_OPTION_NOTIFY_CONNECTION, &CService::OnConnection,
+                                    this, MHD_OPTION_ARRAY, options, MHD_OPTION_END);
         return m_daemon != nullptr;
     }
 
@@ -191,19 +162,30 @@ private:
         }
         auto& incoming = *static_cast<Incoming*>(*state);
         if (*uploadSize == 0) return service.Answer(connection, url, method, incoming);
-        incoming.tooLarge = incoming.tooLarge || incoming.body.size() + *uploadSize > service.m_limits.bodyBytes;
-        if (!incoming.tooLarge) incoming.body.append(upload, *uploadSize);
+        incoming.received += *uploadSize;
+        if (incoming.received <= service.m_limits.bodyBytes) incoming.body.append(upload, *uploadSize);
         *uploadSize = 0;
-        // A client that sends drop by drop, or without end, is left.
-        return std::chrono::steady_clock::now() - incoming.begun > kLongestUpload ? MHD_NO : MHD_YES;
+        return incoming.received > kMostDiscarded ? MHD_NO : MHD_YES;
     }
 
-    static void OnCompleted(void*, MHD_Connection*, void** state, MHD_RequestTerminationCode) {
+    static void OnCompleted(void* self, MHD_Connection* connection, void** state, MHD_RequestTerminationCode) {
         delete static_cast<Incoming*>(*state);
         *state = nullptr;
+        auto& service = *static_cast<CService*>(self);
+        service.m_deadlines.Set(SocketOf(connection), service.m_limits.request);
+    }
+
+    static void OnConnection(void* self, MHD_Connection* connection, void**, MHD_ConnectionNotificationCode what) {
+        auto& service = *static_cast<CService*>(self);
+        if (what == MHD_CONNECTION_NOTIFY_STARTED) {
+            service.m_deadlines.Set(SocketOf(connection), service.m_limits.request);
+        } else {
+            service.m_deadlines.Forget(SocketOf(connection));
+        }
     }
 
     MHD_Result Answer(MHD_Connection* connection, const char* url, const char* method, Incoming& incoming) {
+        m_deadlines.Set(SocketOf(connection), m_limits.reply);
         const std::optional<Outgoing> routed = Route(connection, url, method, incoming);
         if (!routed) return MHD_YES;
         const Outgoing& out = *routed;
@@ -224,7 +206,7 @@ private:
             out.headers.emplace_back("Allow", url == "/feed" ? "POST" : "GET, HEAD");
             return out;
         }
-        if (incoming.tooLarge) return Plain(413, "too large\n");
+        if (incoming.received > m_limits.bodyBytes) return Plain(413, "too large\n");
         const FeedQuestion question = ParseFeedQuestion(incoming.body);
         FeedAnswer answer = AnswerQuestion(question, *knowledge);
         if (m_weather != nullptr && question.job == FeedJob::kWeather) {
@@ -251,6 +233,7 @@ private:
     ListenerLimits m_limits;
     Log m_log;
     CWeatherSource* m_weather;
+    CRequestDeadlines m_deadlines;
     std::shared_ptr<CSleepers> m_sleepers = std::make_shared<CSleepers>();
     MHD_Daemon* m_daemon = nullptr;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -14,8 +15,10 @@ namespace rlx {
 /// Bounds that keep a hostile crowd from filling the machine.
 struct ListenerLimits {
     unsigned connections = 512;
-    unsigned connectionsOfOne = 32;  ///< from one address
-    unsigned idleSeconds = 10;       ///< a connection that is silent so long is dropped
+    unsigned connectionsOfOne = 32;    ///< from one address
+    unsigned idleSeconds = 10;         ///< a connection that is silent so long is dropped
+    std::chrono::seconds request{30};  ///< from the connection, or the last answer, to the last byte of a request
+    std::chrono::seconds reply{300};   ///< from there to the last byte of the answer
     std::size_t connectionBytes = 32'768;
     std::size_t bodyBytes = 16'384;  ///< of a request; a larger one is refused
 };

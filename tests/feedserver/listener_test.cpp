@@ -1,3 +1,7 @@
+#include <atomic>
+#include <chrono>
+#include <future>
+
 #include "feeds/feed_parameters.h"
 #include "feeds/feed_world.h"
 #include "feeds/rates_reply.h"
@@ -10,6 +14,12 @@ namespace rlx::test {
 namespace {
 
 constexpr char kHead[] = "inet=a:b&did=Zoe & co=1&jc=";
+/// One request of the bytes.
+std::string Post(const std::string& headers, const std::string& body) {
+    return "POST /feed HTTP/1.1\r\nHost: a\r\n" + headers + "Content-Length: " + std::to_string(body.size()) +
+           "\r\n\r\n" + body;
+}
+
 constexpr char kTail[] = "&os=wince6.1&gid=1&appver=1.2&home=A&B&scrsize=240x320&wasize=240x294";
 
 TEST(FeedQuestion, UnderstandsWhatBuildersMake) {
@@ -94,8 +104,7 @@ TEST(HttpListener, SpeaksTheProtocolOfOurClient) {
 TEST(HttpListener, SurvivesHostileClients) {
     ServerWorld world;
     const auto post = [](const std::string& headers, const std::string& body) {
-        return "POST /feed HTTP/1.1\r\nHost: a\r\nConnection: close\r\n" + headers +
-               "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body;
+        return Post("Connection: close\r\n" + headers, body);
     };
     const std::string good = std::string(kHead) + "110" + kTail;
     const struct {
@@ -122,6 +131,72 @@ TEST(HttpListener, SurvivesHostileClients) {
     EXPECT_EQ(RawExchange(world.port, post("Cookie: JSESSIONID=a.\r\n", good)).find("sessionId: a."),
               std::string::npos);
     EXPECT_EQ(world.client.PostFeedRequest(world.url, Widen(good), true).body, u"EUR_0.9#JPY_150#");
+}
+
+/// Neither silent nor ever at their end; a time-out alone does not see them.
+TEST(HttpListener, DropsWhoNeverComesToAnEnd) {
+    const CKnowledgeBoard board;
+    const std::string begin = "POST /feed HTTP/1.1\r\nHost: a\r\n";
+    const std::string chunk = "10000\r\n" + std::string(65'536, 'x') + "\r\n";
+    const struct {
+        const char* name;
+        std::string first;
+        std::string more;
+        int requestSeconds;
+    } rows[] = {
+        {"a header line now and then", begin, "X: y\r\n", 1},
+        {"a byte of the body now and then", begin + "Content-Length: 9000\r\n\r\n", "x", 1},
+        {"a body without end", begin + "Transfer-Encoding: chunked\r\n\r\n", chunk, 30},
+    };
+    for (const auto& row : rows) {
+        ListenerLimits limits;
+        limits.request = std::chrono::seconds(row.requestSeconds);
+        CHttpListener listener(board, limits, [](const std::string&) {});
+        ASSERT_EQ(listener.Listen({"127.0.0.1", 0}), "");
+        CRawClient client(listener.Port());
+        client.SetPatience(std::chrono::milliseconds(row.more == chunk ? 1 : 50));
+        ASSERT_TRUE(client.Send(row.first)) << row.name;
+        const auto begun = std::chrono::steady_clock::now();
+        const auto waited = [begun] { return std::chrono::steady_clock::now() - begun; };
+        while (client.Send(row.more) && waited() < std::chrono::seconds(8))
+            client.Receive();
+        EXPECT_LT(waited(), std::chrono::seconds(5)) << row.name;
+    }
+}
+
+/// More at a time than one look at the sockets may tell, and just as many as it may tell.
+TEST(HttpListener, AnswersAllWhoAskInOneInstant) {
+    const CKnowledgeBoard board;
+    std::atomic<bool> stopsHere = false;
+    std::promise<void> stopped;
+    std::promise<void> goOn;
+    ListenerLimits limits;
+    limits.connectionsOfOne = limits.connections;
+    CHttpListener listener(board, limits, [&](const std::string&) {
+        if (!stopsHere.exchange(false)) return;
+        stopped.set_value();
+        goOn.get_future().wait();
+    });
+    ASSERT_EQ(listener.Listen({"127.0.0.1", 0}), "");
+    const std::string request = Post("", std::string(kHead) + "110" + kTail);
+    std::vector<std::unique_ptr<CRawClient>> clients;
+    for (int i = 0; i < 129; ++i) {
+        clients.push_back(std::make_unique<CRawClient>(listener.Port()));
+        ASSERT_TRUE(clients.back()->Send(request));
+        ASSERT_FALSE(clients.back()->Receive().empty());
+    }
+    stopsHere = true;
+    clients[0]->Send(request);
+    stopped.get_future().wait();
+    for (std::size_t i = 1; i < clients.size(); ++i)
+        clients[i]->Send(request);
+    goOn.set_value();
+    int answered = 0;
+    for (const auto& client : clients) {
+        client->SetPatience(std::chrono::seconds(4));
+        answered += client->Receive().starts_with("HTTP/1.1 200") ? 1 : 0;
+    }
+    EXPECT_EQ(answered, 129);
 }
 
 }  // namespace
