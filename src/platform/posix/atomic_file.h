@@ -9,6 +9,7 @@
 namespace rlx {
 
 /// New content for a file, gathered beside it and put in its place in one step. Without `Commit` nothing changes.
+/// A process that is killed may leave the half of a file; the next that writes to the folder a minute later removes it.
 class CAtomicFile {
 public:
     /// `file` may be a link: what it leads to is replaced.
