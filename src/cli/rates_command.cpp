@@ -7,6 +7,7 @@
 #include "cli/feed_session.h"
 #include "currency/currency_convert.h"
 #include "currency/text_ids.h"
+#include "feeds/text_ids.h"
 #include "feeds/currency_database.h"
 #include "feeds/rates_origin.h"
 #include "feeds/rates_update.h"
@@ -102,6 +103,7 @@ int Update(CSession& session, CAnswer& answer) {
                                       {area, area.height});
     ShowRates(session, answer, rates);
     ShowOrigin(session, answer);
+    if (result.stored && !session.KeepsChanges()) return session.Fail(session.Text(kTextRatesNotSaved));
     return result.stored ? kDone : kFailed;
 }
 

@@ -132,6 +132,7 @@ int Update(CSession& session, CAnswer& answer, const std::string& word) {
     const auto isGood = [](PlaceUpdate result) {
         return result == PlaceUpdate::kSaved || result == PlaceUpdate::kOlder;
     };
+    if (!session.KeepsChanges()) return session.Fail(session.Text(kTextFileNotSaved, kWeatherDatabase));
     return std::ranges::all_of(results, isGood) ? kDone : kFailed;
 }
 

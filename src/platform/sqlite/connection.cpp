@@ -2,6 +2,8 @@
 
 #include <sqlite3.h>
 
+#include <string>
+#include <string_view>
 #include <utility>
 
 namespace rlx {
@@ -9,6 +11,22 @@ namespace rlx {
 namespace {
 
 constexpr int kOpenFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+constexpr int kFixedFlags = SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+
+/// As a part of a URI.
+std::string Escaped(const std::string& path) {
+    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    std::string escaped;
+    for (const char c : path) {
+        if (c == '%' || c == '?' || c == '#') {
+            const auto byte = static_cast<unsigned char>(c);
+            escaped.append({'%', kDigits[byte >> 4U], kDigits[byte & 15U]});
+        } else {
+            escaped += c;
+        }
+    }
+    return escaped;
+}
 
 }  // namespace
 
@@ -22,16 +40,31 @@ StoreResult CConnection::Open(const std::filesystem::path& file) {
     // An absolute path is never taken for a special name or a URI.
     std::error_code error;
     const std::filesystem::path absolute = std::filesystem::absolute(file, error);
-    return error ? StoreResult::kNoAccess : OpenNamed(absolute.c_str());
+    return error ? StoreResult::kNoAccess : OpenNamed(absolute.c_str(), kOpenFlags);
+}
+
+StoreResult CConnection::OpenFixed(const std::filesystem::path& file) {
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(file, error);
+    if (error) return StoreResult::kNoAccess;
+    const std::string uri = "file://" + Escaped(absolute.native()) + "?mode=ro&immutable=1";
+    return OpenNamed(uri.c_str(), kFixedFlags);
 }
 
 StoreResult CConnection::OpenInMemory() {
-    return OpenNamed(":memory:");
+    return OpenNamed(":memory:", kOpenFlags);
 }
 
-StoreResult CConnection::OpenNamed(const char* name) {
+StoreResult CConnection::Take(CConnection& source) {
+    sqlite3_backup* backup = sqlite3_backup_init(m_database, "main", source.m_database, "main");
+    if (backup == nullptr) return Note(ToStoreResult(sqlite3_extended_errcode(m_database)));
+    sqlite3_backup_step(backup, -1);
+    return Note(ToStoreResult(sqlite3_backup_finish(backup)));
+}
+
+StoreResult CConnection::OpenNamed(const char* name, int flags) {
     Close();
-    const int code = sqlite3_open_v2(name, &m_database, kOpenFlags, nullptr);
+    const int code = sqlite3_open_v2(name, &m_database, flags, nullptr);
     if (code != SQLITE_OK) {
         Close();
         return Note(ToStoreResult(code));

@@ -28,8 +28,15 @@ public:
     /// Opens the file, or makes an empty one. Nothing is read yet, so damage shows at the first statement.
     StoreResult Open(const std::filesystem::path& file);
 
+    /// Opens a file that nobody writes to, of which nothing can be made beside it: what lies in a folder that is
+    /// read-only. What a log beside it holds is not seen.
+    StoreResult OpenFixed(const std::filesystem::path& file);
+
     /// An empty database that is gone with the connection.
     StoreResult OpenInMemory();
+
+    /// Puts all that `source` holds in the place of what this one holds. A connection in memory is meant.
+    StoreResult Take(CConnection& source);
 
     void Close();
 
@@ -79,7 +86,7 @@ public:
 private:
     class CScope;
 
-    StoreResult OpenNamed(const char* name);
+    StoreResult OpenNamed(const char* name, int flags);
     bool RunOutermost(const std::function<bool()>& work);
     bool RunJoined(const std::function<bool()>& work);
     bool IsRolledBack() const;

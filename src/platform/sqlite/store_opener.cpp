@@ -49,6 +49,12 @@ fs::path FolderOf(const fs::path& file) {
     return file.has_parent_path() ? file.parent_path() : fs::path(".");
 }
 
+/// Settings that cannot be kept are refused, so that whoever changes one learns of it.
+constexpr char kRefuseSettings[] =
+    "CREATE TEMP TRIGGER no_insert BEFORE INSERT ON registry_value BEGIN SELECT RAISE(ABORT, 'read-only'); END;"
+    "CREATE TEMP TRIGGER no_update BEFORE UPDATE ON registry_value BEGIN SELECT RAISE(ABORT, 'read-only'); END;"
+    "CREATE TEMP TRIGGER no_delete BEFORE DELETE ON registry_value BEGIN SELECT RAISE(ABORT, 'read-only'); END;";
+
 }  // namespace
 
 CDeviceStore::CParts::~CParts() {
@@ -79,8 +85,8 @@ SchemaState CStoreOpener::OpenAndInspect() {
         std::error_code error;
         if (fs::create_directories(FolderOf(m_file), error)) result = m_parts->connection.Open(m_file);
     }
-    if (result != StoreResult::kDone) return SchemaState::kUnreadable;
-    const SchemaState state = InspectSchema(m_parts->connection);
+    SchemaState state = result == StoreResult::kDone ? InspectSchema(m_parts->connection) : SchemaState::kUnreadable;
+    if (state == SchemaState::kUnreadable) state = InspectFixed();
     if (state != SchemaState::kReady || !IsThere(m_suspectMark)) return state;
     if (!IsSound(m_parts->connection)) return SchemaState::kDamaged;
     std::error_code error;
@@ -88,10 +94,21 @@ SchemaState CStoreOpener::OpenAndInspect() {
     return SchemaState::kReady;
 }
 
+/// A store can be read where nothing can be made beside it (a full disk, a folder that is read-only), unless a log has
+/// something to tell.
+SchemaState CStoreOpener::InspectFixed() {
+    std::error_code error;
+    const fs::path log = WithSuffix(m_file, "-wal");
+    const bool told = !IsThere(log) || (fs::file_size(log, error) == 0 && !error);
+    if (!IsThere(m_file) || !told || m_parts->connection.OpenFixed(m_file) != StoreResult::kDone)
+        return SchemaState::kUnreadable;
+    return InspectSchema(m_parts->connection);
+}
+
 OpenedStore CStoreOpener::Accept(SchemaState state, StoreOutcome created) {
     switch (state) {
         case SchemaState::kReady:
-            return Finish(m_parts->connection.IsReadOnly() ? StoreOutcome::kReadOnly : StoreOutcome::kOpened);
+            return m_parts->connection.IsReadOnly() ? CopyToMemory() : Finish(StoreOutcome::kOpened);
         case SchemaState::kEmpty:
             if (CreateSchema(m_parts->connection) == StoreResult::kDone) return Finish(created);
             return FallBack(StoreOutcome::kUnreachable);
@@ -145,6 +162,17 @@ bool CStoreOpener::MoveAside(const fs::path& aside) const {
     if (error) return false;
     fs::remove(m_suspectMark, error);
     return true;
+}
+
+/// In memory, databases that the file lacks can still be made for this run.
+OpenedStore CStoreOpener::CopyToMemory() {
+    auto copy = std::make_unique<CDeviceStore::CParts>(m_clock);
+    const bool copied = copy->connection.OpenInMemory() == StoreResult::kDone &&
+                        copy->connection.Take(m_parts->connection) == StoreResult::kDone &&
+                        copy->connection.Execute(kRefuseSettings) == StoreResult::kDone;
+    if (!copied) return FallBack(StoreOutcome::kUnreachable);
+    m_parts = std::move(copy);
+    return {std::unique_ptr<CDeviceStore>(new CDeviceStore(std::move(m_parts))), StoreOutcome::kReadOnly, std::nullopt};
 }
 
 OpenedStore CStoreOpener::FallBack(StoreOutcome outcome) {

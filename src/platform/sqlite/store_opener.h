@@ -20,9 +20,11 @@ public:
 
 private:
     SchemaState OpenAndInspect();
+    SchemaState InspectFixed();
     OpenedStore Accept(SchemaState state, StoreOutcome created);
     OpenedStore Replace();
     OpenedStore FallBack(StoreOutcome outcome);
+    OpenedStore CopyToMemory();
     OpenedStore Finish(StoreOutcome outcome);
     std::filesystem::path AsideName() const;
     bool MoveAside(const std::filesystem::path& aside) const;
