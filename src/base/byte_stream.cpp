@@ -17,15 +17,6 @@ std::size_t CMemoryStream::Read(char* buffer, std::size_t size) {
 
 CByteReader::CByteReader(IByteStream& stream) : m_stream(stream), m_block(kBlockSize, '\0') {}
 
-int CByteReader::Next() {
-    if (AtEnd()) return -1;
-    return static_cast<unsigned char>(m_block[m_at++]);
-}
-
-bool CByteReader::AtEnd() {
-    return m_at == m_filled && !Fill();
-}
-
 bool CByteReader::Fill() {
     m_before += m_at;
     m_filled = m_stream.Read(m_block.data(), m_block.size());

@@ -33,10 +33,10 @@ public:
     explicit CByteReader(IByteStream& stream);
 
     /// The next byte as 0 to 255, or -1 at the end.
-    int Next();
+    int Next() { return AtEnd() ? -1 : static_cast<unsigned char>(m_block[m_at++]); }
 
     /// True when no byte is left. May read a block to find out.
-    bool AtEnd();
+    bool AtEnd() { return m_at == m_filled && !Fill(); }
 
     /// How many bytes were handed out.
     std::size_t Taken() const { return m_before + m_at; }

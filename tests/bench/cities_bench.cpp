@@ -117,6 +117,7 @@ void CityByIndex(benchmark::State& state) {
     CManyCities device(CountOf(state));
     CCityDatabase cities = device.Cities();
     cities.EnsureCreated();
+    cities.Record(0);  // makes the index
     std::size_t at = 0;
     const auto count = static_cast<std::size_t>(CountOf(state));
     for ([[maybe_unused]] auto _ : state)
@@ -127,6 +128,7 @@ void SeekPosition(benchmark::State& state) {
     CManyCities device(CountOf(state));
     device.Cities().EnsureCreated();
     const auto database = device.Objects().Open(kCitiesDatabase);
+    database->SeekPosition(PROP_PLACE, 0);
     std::size_t at = 0;
     const auto count = static_cast<std::size_t>(CountOf(state));
     for ([[maybe_unused]] auto _ : state)

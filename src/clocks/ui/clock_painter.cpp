@@ -8,7 +8,12 @@ namespace rlx {
 namespace {
 
 constexpr int kRimOpacity = 70;        // of 255
+constexpr double kSmallestRadius = 4;  // pixels
 constexpr double kHeightForNote = 46;  // pixels; four lines in less cannot be read
+
+double RadiusIn(const QRectF& area) {
+    return std::min(area.width(), area.height()) / 2 - 1;
+}
 
 QPointF OnCircle(const QPointF& centre, double radius, double degrees) {
     const double angle = degrees * M_PI / 180.0;
@@ -100,19 +105,26 @@ QString DateWithDistance(const ClockTexts& texts, const QRectF& line) {
 
 }  // namespace
 
-void PaintClockFace(QPainter& painter, const QRectF& area, const ClockHands& hands, bool day,
-                    const ClockColours& colours) {
-    const double radius = std::min(area.width(), area.height()) / 2 - 1;
-    if (radius < 4) return;
+void PaintClockFace(QPainter& painter, const QRectF& area, bool day, const ClockColours& colours) {
+    const double radius = RadiusIn(area);
+    if (radius < kSmallestRadius) return;
     const QPointF centre = area.center();
     painter.setRenderHint(QPainter::Antialiasing);
     const FaceColours face = FaceColoursOf(colours, day);
-    const QColor& ink = face.ink;
     PaintGround(painter, centre, radius, face);
     for (const ClockMark& mark : MarksFor(radius)) {
         PaintHand(painter, centre, mark.angle, mark.from * radius, mark.to * radius, std::max(0.8, mark.width * radius),
-                  ink);
+                  face.ink);
     }
+}
+
+void PaintClockHands(QPainter& painter, const QRectF& area, const ClockHands& hands, bool day,
+                     const ClockColours& colours) {
+    const double radius = RadiusIn(area);
+    if (radius < kSmallestRadius) return;
+    const QPointF centre = area.center();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = FaceColoursOf(colours, day).ink;
     PaintHand(painter, centre, hands.hour, 0, radius * 0.5, std::max(1.6, radius * 0.075), ink);
     PaintHand(painter, centre, hands.minute, 0, radius * 0.76, std::max(1.2, radius * 0.05), ink);
     PaintHand(painter, centre, hands.second, -radius * 0.16, radius * 0.82, std::max(0.8, radius * 0.018),

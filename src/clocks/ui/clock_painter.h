@@ -29,9 +29,13 @@ struct ClockTexts {
     QString shortNote;  ///< the distance alone, for small clocks
 };
 
-/// Draws an analog face, day or night told by its ground, into the largest circle within `area`.
-void PaintClockFace(QPainter& painter, const QRectF& area, const ClockHands& hands, bool day,
-                    const ClockColours& colours);
+/// Draws the face of an analog clock without its hands, day or night told by its ground, into the largest circle within
+/// `area`.
+void PaintClockFace(QPainter& painter, const QRectF& area, bool day, const ClockColours& colours);
+
+/// Draws the hands over the face of the same area.
+void PaintClockHands(QPainter& painter, const QRectF& area, const ClockHands& hands, bool day,
+                     const ClockColours& colours);
 
 /// Draws the texts of a clock into `area`, each line as large as fits. `alignment` is left or centred.
 void PaintClockTexts(QPainter& painter, const QRectF& area, const ClockTexts& texts, const ClockColours& colours,

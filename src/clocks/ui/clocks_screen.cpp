@@ -49,7 +49,10 @@ CClocksScreen::CClocksScreen(CCityDatabase& cities, const IClock& clock, CRegist
     connect(&m_longTap, &QTimer::timeout, this, [this] {
         if (const auto held = std::exchange(m_pressed, std::nullopt)) OpenMenu(*held, mapToGlobal(m_pressedAt));
     });
-    connect(&m_look, &CLook::Changed, this, QOverload<>::of(&QWidget::update));
+    connect(&m_look, &CLook::Changed, this, [this] {
+        m_still.Forget();
+        update();
+    });
     Refresh();
 }
 
@@ -152,15 +155,32 @@ ClockColours CClocksScreen::ColoursOf(std::size_t clock) const {
     return colours;
 }
 
+CClocksScreen::Still CClocksScreen::StillNow() const {
+    Still still;
+    for (std::size_t clock = 0; clock < m_clocks.size(); ++clock)
+        still.days[clock] = IsDayFace(static_cast<int>(m_clocks[clock].hour));
+    if (m_showFocus) still.focused = m_focused;
+    return still;
+}
+
+/// The ground, the cards and the faces: the most of the picture and of the work, and the same from second to second.
+void CClocksScreen::PaintStill(QPainter& painter, const Still& still) const {
+    m_look.PaintBackground(painter, rect(), LookPicture::kClocks);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (std::size_t clock = 0; clock < m_layout.size(); ++clock) {
+        painter.setPen(clock == still.focused ? QPen(m_look.Accent(), 2) : QPen(Qt::NoPen));
+        painter.setBrush(m_look.Card());
+        painter.drawRoundedRect(m_layout[clock].card, kCardRadius, kCardRadius);
+        PaintClockFace(painter, m_layout[clock].face, still.days[clock], ColoursOf(clock));
+    }
+}
+
 void CClocksScreen::PaintClock(QPainter& painter, std::size_t clock) const {
     const ClockCell& cell = m_layout[clock];
     const ClockReading& reading = m_clocks[clock];
-    painter.setPen(clock == m_focused && m_showFocus ? QPen(m_look.Accent(), 2) : QPen(Qt::NoPen));
-    painter.setBrush(m_look.Card());
-    painter.drawRoundedRect(cell.card, kCardRadius, kCardRadius);
     const ClockColours colours = ColoursOf(clock);
     const int hour = static_cast<int>(reading.hour);
-    PaintClockFace(painter, cell.face, HandsAt(hour, reading.minute, reading.second), IsDayFace(hour), colours);
+    PaintClockHands(painter, cell.face, HandsAt(hour, reading.minute, reading.second), IsDayFace(hour), colours);
     PaintClockTexts(painter, cell.texts, TextsOf(clock), colours, cell.centred ? Qt::AlignHCenter : Qt::AlignLeft);
 }
 
@@ -182,7 +202,9 @@ void CClocksScreen::PaintBell(QPainter& painter) const {
 
 void CClocksScreen::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    m_look.PaintBackground(painter, rect(), LookPicture::kClocks);
+    const Still still = StillNow();
+    painter.drawPixmap(0, 0,
+                       m_still.Of(still, size(), devicePixelRatioF(), [&](QPainter& p) { PaintStill(p, still); }));
     painter.setRenderHint(QPainter::Antialiasing);
     for (std::size_t clock = 0; clock < m_clocks.size(); ++clock)
         PaintClock(painter, clock);

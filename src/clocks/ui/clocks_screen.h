@@ -9,6 +9,7 @@
 #include "clocks/ui/choose_city.h"
 #include "clocks/ui/clock_painter.h"
 #include "clocks/ui/clocks_layout.h"
+#include "clocks/ui/still_picture.h"
 #include "places/city_info.h"
 #include "places/city_times.h"
 #include "platform/message_boxes.h"
@@ -75,6 +76,16 @@ protected:
 private:
     void MakeMenu();
     void PaintBell(QPainter& painter) const;
+    /// What the still part of the picture depends on, but for the look.
+    struct Still {
+        std::array<bool, 5> days{};          ///< the faces that show day
+        std::optional<std::size_t> focused;  ///< as far as it shows
+
+        bool operator==(const Still&) const = default;
+    };
+
+    Still StillNow() const;
+    void PaintStill(QPainter& painter, const Still& still) const;
     void PaintClock(QPainter& painter, std::size_t clock) const;
     ClockTexts TextsOf(std::size_t clock) const;
     ClockColours ColoursOf(std::size_t clock) const;
@@ -99,6 +110,7 @@ private:
     std::optional<CCityTimes> m_times;  ///< made anew when the settings change
     std::array<ClockReading, 5> m_clocks;
     ClocksLayout m_layout;
+    CStillPicture<Still> m_still;
     ClockForm m_form = ClockForm::kTwentyFour;
     CCommandTable m_commands;
     QMenu m_menu;

@@ -60,8 +60,17 @@ std::optional<std::string> CSqliteRecordDatabase::Key(RecordId record, PropertyI
     return std::string(EncodedProperty(statement.Bytes(0), sortProperty));
 }
 
+/// What this process did to the store may have ended in a rollback, which gives numbers back. Numbers that another
+/// process wrote never come again, so a record that is found under the number of the database that was seen last is the
+/// right one, and only what is not found there needs another look at the catalogue.
 std::optional<Record> CSqliteRecordDatabase::Read(RecordId record) {
-    if (!IsThere()) return std::nullopt;
+    const std::int64_t seen = SawOwnChanges() ? m_state.number : 0;
+    auto found = seen == 0 ? std::nullopt : Select(record);
+    if (found || !IsThere() || m_state.number == seen) return found;
+    return Select(record);
+}
+
+std::optional<Record> CSqliteRecordDatabase::Select(RecordId record) {
     CStatement statement = m_connection.Prepare("SELECT properties FROM record WHERE database = ? AND id = ?");
     if (!statement.Bind(1, m_state.number).Bind(2, record).NextRow()) return std::nullopt;
     return DecodeRecord(statement.Bytes(0));
@@ -158,10 +167,13 @@ bool CSqliteRecordDatabase::ResolveForWrite() {
     return m_state.number != 0;
 }
 
+bool CSqliteRecordDatabase::SawOwnChanges() const {
+    return m_seenVersion == m_ledger.Version() && m_seenCatalog == m_ledger.CatalogVersion();
+}
+
 void CSqliteRecordDatabase::Refresh() {
     const std::int64_t outside = m_ledger.OutsideVersion();
-    if (outside == m_seenOutside && m_seenVersion == m_ledger.Version() && m_seenCatalog == m_ledger.CatalogVersion())
-        return;
+    if (outside == m_seenOutside && SawOwnChanges()) return;
     if (m_connection.InTransaction() && !m_ledger.Flush()) return;
     m_seenOutside = outside;
     m_seenVersion = m_ledger.Version();

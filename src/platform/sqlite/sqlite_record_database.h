@@ -43,6 +43,7 @@ private:
         std::int64_t lastModified = 0;
     };
 
+    bool SawOwnChanges() const;
     void Refresh();
     State Load();
     bool ResolveForWrite();
@@ -52,6 +53,7 @@ private:
     template <typename Visit>
     void ForEach(const CRecordIndex& index, const Visit& visit);
 
+    std::optional<Record> Select(RecordId record);
     std::optional<std::string> Key(RecordId record, PropertyId sortProperty);
     bool Insert(RecordId record, const std::string& properties);
     bool Update(RecordId record, const std::string& properties);

@@ -21,9 +21,11 @@ std::uint32_t NumberAt(std::string_view bytes, std::size_t at) {
 }
 
 void AppendText(std::string& bytes, std::u16string_view text) {
+    std::size_t at = bytes.size();
+    bytes.resize(at + 2 * text.size());
     for (const char16_t unit : text) {
-        bytes.push_back(static_cast<char>(unit >> 8));
-        bytes.push_back(static_cast<char>(unit & 0xFF));
+        bytes[at++] = static_cast<char>(unit >> 8);
+        bytes[at++] = static_cast<char>(unit & 0xFF);
     }
 }
 
@@ -52,17 +54,20 @@ std::string EncodeText(std::u16string_view text) {
 }
 
 std::u16string DecodeText(std::string_view bytes) {
-    std::u16string text;
-    text.reserve(bytes.size() / 2);
-    for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-        const unsigned high = static_cast<unsigned char>(bytes[i]);
-        text.push_back(static_cast<char16_t>((high << 8) | static_cast<unsigned char>(bytes[i + 1])));
+    std::u16string text(bytes.size() / 2, u'\0');
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const unsigned high = static_cast<unsigned char>(bytes[2 * i]);
+        text[i] = static_cast<char16_t>((high << 8) | static_cast<unsigned char>(bytes[2 * i + 1]));
     }
     return text;
 }
 
 std::string EncodeRecord(const Record& record) {
+    std::size_t size = 0;
+    for (const Property& property : record)
+        size += kHeadSize + 2 * property.text.size();
     std::string bytes;
+    bytes.reserve(size);
     for (const Property& property : record) {
         AppendNumber(bytes, property.id);
         AppendNumber(bytes, static_cast<std::uint32_t>(property.text.size()));

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QPainter>
+#include <QPixmap>
+#include <optional>
+#include <utility>
+
+namespace rlx {
+
+/// The part of a widget that stays the same from second to second, painted once. `State` is all that it depends on and
+/// can be compared. User-interface thread.
+template <typename State>
+class CStillPicture {
+public:
+    /// To be called when something else than the state has changed.
+    void Forget() { m_state.reset(); }
+
+    /// The picture of `state`, of `size` in the units of the widget; `paint(painter)`, which covers all of it, is
+    /// called when it is not at hand.
+    template <typename Paint>
+    const QPixmap& Of(const State& state, const QSize& size, qreal ratio, const Paint& paint) {
+        const QSize pixels = (QSizeF(size) * ratio).toSize();
+        if (m_state == state && m_picture.size() == pixels) return m_picture;
+        m_picture = QPixmap(pixels);
+        m_picture.setDevicePixelRatio(ratio);
+        QPainter painter(&m_picture);
+        paint(painter);
+        m_state = state;
+        return m_picture;
+    }
+
+private:
+    std::optional<State> m_state;
+    QPixmap m_picture;
+};
+
+}  // namespace rlx
