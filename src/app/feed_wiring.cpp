@@ -153,6 +153,9 @@ void CFeedWiring::FetchNews() {
         CNewsFetch fetch(ports, m_ports.files, m_ports.clock, m_ports.folder.Root());
         result = fetch.Fetch(url, Parameters().NewsParameters());
     });
+    // Somebody else's page instead of a reply, as in a hotel; rates and weather say so by themselves.
+    if (result.outcome == FeedOutcome::kNotUnderstood)
+        m_ports.boxes.Show(ErrorBox(m_ports.resources, m_ports.resources.Text(kTextSyncFailed)));
     if (!result.saved) return;
     if (m_ports.window.CurrentIndex() == m_newsIndex) {
         m_newsScreen->Entered();

@@ -1,6 +1,7 @@
 #include "cli/commands.h"
 #include "cli/feed_session.h"
 #include "feeds/news_fetch.h"
+#include "feeds/text_ids.h"
 #include "news/news_page.h"
 
 namespace rlx::cli {
@@ -34,7 +35,11 @@ int Fetch(CSession& session, CAnswer& answer) {
     const NewsFetchResult result = fetch.Fetch(*url, FeedParameters(session).NewsParameters());
     answer.Set("bytes", result.bytes);
     SetState(answer, NewsPage(session).State());
-    if (!result.saved) return kFailed;
+    if (!result.saved) {
+        // The protocol knows replies that say nothing; a person is told all the same.
+        if (session.Boxes().Shown().empty()) answer.Line(session.Text(kTextSyncFailed));
+        return kFailed;
+    }
     answer.Line(std::to_string(result.bytes));
     return kDone;
 }

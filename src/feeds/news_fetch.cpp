@@ -22,13 +22,18 @@ NewsFetchResult CNewsFetch::Fetch(std::u16string_view url, std::u16string_view p
     NewsFetchResult result;
     result.outcome = reply.outcome;
     if (reply.outcome == FeedOutcome::kCancelled) return result;
+    // The page is still to be fetched, so its identifier must not count as known.
+    const auto forgetPage = [&] {
+        if (settings.ReadString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId) != known)
+            settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, known);
+    };
+    if (reply.outcome != FeedOutcome::kAnswered) forgetPage();
     if (reply.body.empty()) {
         settings.WriteDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewNews, 0);
         return result;
     }
     if (!Save(reply.body)) {
-        // The page is still to be fetched, so its identifier must not count as known.
-        settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsId, known);
+        forgetPage();
         return result;
     }
     result.saved = true;

@@ -27,7 +27,8 @@ public:
                std::filesystem::path applicationFolder);
 
     /// `parameters`: what `CFeedParameters::NewsParameters` made. A failure was reported when this returns; an empty
-    /// reply and a failure leave the last page.
+    /// reply and a failure leave the last page, a failure also its identifier, so that the server sends the new one
+    /// again.
     NewsFetchResult Fetch(std::u16string_view url, std::u16string_view parameters, IHttpObserver* observer = nullptr);
 
 private:
