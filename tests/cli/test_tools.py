@@ -13,33 +13,17 @@ class Converter(RlxTest):
         rows = [
             # value, from, to, options, result, text
             ("1", "Short ton", "kg - Kilogram", (), 907.18474, "907.18474"),
-            ("1", "Ton [short, US]", "kg - Kilogram", (), 907, "907"),
-            ("1", "Cup [US]", "Liter", (), 0, "0"),
             ("1", "Liter", "Cup [US]", (), None, "infinite"),
             ("0", "Liter", "Cup [US]", (), None, "not a number"),
-            ("-273.15", "°C - Degree Celsius", "K - Kelvin", (), 0, "0"),
-            ("-273.15", "°C - Degree Celsius", "°F - Degree Fahrenheit", (), -459.67, "-459.67"),
-            ("100", "°C - Degree Celsius", "°F - Degree Fahrenheit", (), 212, "212"),
-            ("100", "°C", "Degree Reaumur", (), 80, "80"),
-            ("100", "°c", "degree rankine", (), 671.67, "671.67"),
-            ("12abc", "Feet", "Inch", (), 144, "144"),
-            ("abc", "Feet", "Inch", (), 0, "0"),
-            ("-2.5e3", "m - Meter", "km - Kilometer", (), -2.5, "-2.5"),
-            ("-.5", "m - Meter", "mm - Millimeter", (), -500, "-500"),
+            ("100", "°c", "°F - Degree Fahrenheit", (), 212, "212"),
             ("-.5e3", "m - Meter", "km - Kilometer", ("--category", "1"), -0.5, "-0.5"),
-            ("2", "yard", "acre", ("--category", "0"), 2 * 0.83612736 / 4046.8564224, None),
-            ("1e-300", "nm - Nanometer", "m - Meter", (), 1e-309, "1e-309"),
         ]
         for value, source, target, options, result, text in rows:
             with self.subTest(value=value, source=source, target=target):
-                members = self.answer("convert", value, source, target, *options)
-                self.assertEqual(list(members), ["result", "text"])
-                if result is None:
-                    self.assertIsNone(members["result"])
-                else:
-                    self.assertAlmostEqual(members["result"], result, delta=abs(result) * 1e-9 + 1e-12)
-                if text is not None:
-                    self.assertEqual(members["text"], text)
+                self.assertEqual(self.answer("convert", value, source, target, *options),
+                                 {"result": result, "text": text})
+        tiny = self.answer("convert", "1e-300", "nm - Nanometer", "m - Meter")
+        self.assertEqual((tiny["result"] < 2e-309, tiny["text"]), (True, "1e-309"))
 
     def test_below_absolute_zero(self):
         for words in (("--", "-300"), ("-300",)):
@@ -53,8 +37,6 @@ class Converter(RlxTest):
             # words, what the message must name
             (("1", "furlongs", "m - Meter"), "furlongs"),
             (("1", "m - Meter", "kg - Kilogram"), "kg - Kilogram"),
-            (("1", "square m", "acre ", "--category", "0"), "square m"),
-            (("1", "m - Meter", "mm - Millimeter", "--category", "6"), "m - Meter"),
         ]
         for words, named in rows:
             with self.subTest(words=words):
@@ -70,10 +52,7 @@ class Units(RlxTest):
         return self.answer("units", "list", *words)["units"]
 
     def test_seed(self):
-        units = self.units()
-        counts = [sum(unit["category"] == code for unit in units) for code in "0123456"]
-        self.assertEqual(counts, [112, 16, 100, 13, 5, 81, 23])
-        self.assertEqual([unit["category"] for unit in units], sorted(unit["category"] for unit in units))
+        self.assertEqual(len(self.units()), 350)
         self.assertEqual(self.units("weights"), self.units("6"))
         self.assertIn({"category": "6", "name": "Ton [short, US]", "factor": "907,18474"}, self.units("6"))
 
@@ -91,8 +70,6 @@ class Units(RlxTest):
     def test_refusals(self):
         rows = [
             (("add", "6", "tONNE", "1"), "Unit < tONNE > already exists!"),
-            (("add", "5", " ", "1"), "A unit needs a name."),
-            (("delete", "6", "tonne"), "Unit < tonne > was not found."),
             (("add", "9", "x", "1"), 'There is no category of units "9".'),
         ]
         before = self.units()
@@ -101,40 +78,21 @@ class Units(RlxTest):
                 self.answer("--yes", "units", *words, status=1, messages=[message])
         self.assertEqual(self.run_rlx("units", "add", "4", "x", "1").returncode, 1)
         self.assertEqual(self.units(), before)
-        # The seeded name ends in a blank, so this is another name.
-        self.answer("units", "add", "0", "ACRE", "1")
-
-    def test_full_category(self):
-        for number in range(150 - 23):
-            self.answer("units", "add", "6", f"u{number}", "1")
-        self.answer("units", "add", "6", "one too many", "1", status=1,
-                    messages=["This category already holds 150 units."])
-        self.assertEqual(len(self.units("6")), 150)
-
-
 class Dialing(RlxTest):
     def test_tables(self):
         rows = [
-            # words, columns, rows, name of the row selected
+            # words, columns, rows, the row selected
             ((), ["Country", "Code", "GMT"], 244, None),
-            (("ger",), ["Country", "Code", "GMT"], 244, "Germany"),
-            (("intl", "GER"), ["Country", "Code", "GMT"], 244, "Germany"),
+            (("ger",), ["Country", "Code", "GMT"], 244, ["Germany", "+49", "+1"]),
             (("intl", "no such"), ["Country", "Code", "GMT"], 244, None),
-            (("us",), ["City", "Region(State)", "Code"], 259, None),
-            (("us", "fort"), ["City", "Region(State)", "Code"], 259, "Fort"),
+            (("us", "fort"), ["City", "Region(State)", "Code"], 259, ["Fort Wayne", "Indiana(IN)", "+260"]),
         ]
-        for words, columns, count, name in rows:
+        for words, columns, count, found in rows:
             with self.subTest(words=words):
                 members = self.answer("dial", *words)
                 self.assertEqual((members["columns"], len(members["rows"])), (columns, count))
-                if name is None:
-                    self.assertIsNone(members["selected"])
-                    continue
                 at = members["selected"]
-                self.assertTrue(members["rows"][at][0].startswith(name))
-                self.assertFalse(any(row[0].lower().startswith(name.lower()) for row in members["rows"][:at]))
-        germany = self.answer("dial", "ger")
-        self.assertEqual([cell.strip() for cell in germany["rows"][germany["selected"]]], ["Germany", "+49", "+1"])
+                self.assertEqual(at if at is None else [cell.strip() for cell in members["rows"][at]], found)
 
     def test_wrong_table(self):
         done = self.run_rlx("dial", "canada", "tor")
@@ -147,10 +105,8 @@ class Sizes(RlxTest):
         rows = [
             # words, title, a line, audience
             (("Shoes",), "Men's shoes", (3, "Japan 24.5 25.5 26.5 27.5 28 29"), "men"),
-            (("shoes", "women"), "Women's shoes", (3, "Japan 21.5 22.5 23.5 24.5 25 26 (rare)"), "women"),
             (("shi", "women"), "Women's blouses & sweaters", (0, "USA 8 10 12 14 16 18 20 22 24 26"), "women"),
             (("4",), "Men's suits", (3, "Japan (US/Japan) = 34/S 38/M 40/L 44/LL"), None),
-            (("bras", "children"), "Women's bra sizes", (1, "Europe 65 70 75 80 85 90 95 100"), None),
             (("5", "children"), "Children's trousers", (1, "Europe 40-55 50-55 60-65 70-75 80-85"), "children"),
         ]
         for words, title, (line, text), audience in rows:

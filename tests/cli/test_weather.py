@@ -1,11 +1,9 @@
 #!/usr/bin/env python3
 """`rlx weather`, fed over HTTP by a server of the test's own."""
 
-import http.server
-import threading
 import unittest
 
-from rlx_program import RlxTest
+from rlx_program import FeedTest
 
 CITIES = ("2\nz;Amsterdam;Netherlands;4.9;52.4;1;1;88;2;298;3\n"
           "z;Tokyo;Japan;139.7;35.7;9;0;0;0;0;0\n")
@@ -19,32 +17,12 @@ DAY = {"date": "2026-11-22", "code": 61, "condition": "Light rain", "high": 9.1,
 NOTHING = dict.fromkeys(DAY) | {"date": "2026-11-23", "low": 5.0}
 
 
-class Server(http.server.BaseHTTPRequestHandler):
-    def do_POST(self):
-        self.server.asked.append(self.rfile.read(int(self.headers["Content-Length"])).decode("latin-1"))
-        body = self.server.reply.encode()
-        self.send_response(200)
-        for name, value in (("sessionId", "s."), ("ServerMSG", "1005"), ("Content-Type", "text/plain"), ("newsid", "0"),
-                            ("Content-Length", str(len(body)))):
-            self.send_header(name, value)
-        self.end_headers()
-        self.wfile.write(body)
-
-    def log_message(self, *_):
-        pass
-
-
-class Weather(RlxTest):
+class Weather(FeedTest):
     def setUp(self):
         super().setUp()
         self.cities(CITIES)
         (self.home / "cities.wet").write_text("2\nAmsterdam;Netherlands;amsterdam_nl\nTokyo;Japan;tokyo_japan\n")
-        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Server)
-        self.server.asked, self.server.reply = [], REPLY
-        threading.Thread(target=self.server.serve_forever, daemon=True).start()
-        self.addCleanup(self.server.server_close)
-        self.addCleanup(self.server.shutdown)
-        (self.home / "adrs.cfg").write_text(f"http://127.0.0.1:{self.server.server_port}/feed*")
+        self.serve(REPLY.encode())
 
     def weather(self, *words, now=NOW, messages=(), **expected):
         asked = ["The connection <Loopback: Loopback> will be used."] if "update" in words else []
@@ -53,7 +31,7 @@ class Weather(RlxTest):
     def test_forecast_is_fetched_and_kept(self):
         self.assertEqual(self.weather("tok"), [NO_NEWS])
         fetched = self.weather("update", "ams")
-        self.assertIn("&jc=111&c='amsterdam_nl'&", self.server.asked[0])
+        self.assertIn("&jc=111&c='amsterdam_nl'&", self.server.requests[0][0])
         place = {"cityIndex": 0, "place": "Amsterdam:Netherlands", "feedName": "amsterdam_nl",
                  "fetched": "2026-11-22T20:10Z", "issued": "2026-11-22T18:00Z", "source": "Open-Meteo", "stale": False,
                  "days": [DAY, NOTHING]}
@@ -63,7 +41,7 @@ class Weather(RlxTest):
 
     def test_broken_reply_keeps_the_last_good_forecast(self):
         good = self.weather("update", "ams")
-        self.server.reply = REPLY[:-8]
+        self.serve(REPLY[:-8].encode())
         message = "The forecast received for Amsterdam cannot be read. The last good one is kept."
         self.assertEqual(self.weather("update", "ams", status=1, messages=[message]), good)
 

@@ -24,86 +24,43 @@ TEST(ConnectionChoice, FollowsTheRules) {
     const std::string list =
         "Error!|-|Cannot update.\n\nPlease try to set (one of) the following active connection(s) as your default "
         "Internet connection under Start> Settings> Connections> Connections> Advanced> Network select: \n\n";
-    const struct {
+    const std::string isp = "Confirmation|?|The connection <ISP: > will be used." + hint;
+    struct Row {
         const char* name;
         Networks networks;
         std::optional<Guid> probe;
-        bool quiet;
-        BoxAnswer answer;
         bool chosen;
         std::vector<std::string> boxes;
-    } rows[] = {
-        {"no network at all", {}, kNetworkInternet, false, BoxAnswer::kYes, false, {cannot}},
-        {"no way to the probe", {{kHotel, u"Hotel"}}, std::nullopt, false, BoxAnswer::kYes, false, {cannot}},
-        {"the Internet does not connect",
-         {{kNetworkInternet, u"ISP", {false}}},
-         kNetworkInternet,
-         false,
-         BoxAnswer::kYes,
-         false,
-         {cannot}},
-        {"yes",
-         {{kNetworkInternet, u"ISP"}},
-         kNetworkInternet,
-         false,
-         BoxAnswer::kYes,
-         true,
-         {"Confirmation|?|The connection <ISP: > will be used." + hint}},
-        {"no",
-         {{kNetworkInternet, u"ISP"}},
-         kNetworkInternet,
-         false,
-         BoxAnswer::kNo,
-         false,
-         {"Confirmation|?|The connection <ISP: > will be used." + hint, cannot}},
-        {"quiet asks nothing", {{kNetworkInternet, u"ISP"}}, kNetworkInternet, true, BoxAnswer::kNo, true, {}},
+        bool quiet = false;
+        BoxAnswer answer = BoxAnswer::kYes;
+    };
+    const Row rows[] = {
+        {"no network at all", {}, kNetworkInternet, false, {cannot}},
+        {"no way to the probe", {{kHotel, u"Hotel"}}, std::nullopt, false, {cannot}},
+        {"the Internet does not connect", {{kNetworkInternet, u"ISP", {false}}}, kNetworkInternet, false, {cannot}},
+        {"yes", {{kNetworkInternet, u"ISP"}}, kNetworkInternet, true, {isp}},
+        {"no", {{kNetworkInternet, u"ISP"}}, kNetworkInternet, false, {isp, cannot}, false, BoxAnswer::kNo},
+        {"quiet asks nothing", {{kNetworkInternet, u"ISP"}}, kNetworkInternet, true, {}, true, BoxAnswer::kNo},
         {"another network than the Internet has no hint",
          {{kHotel, u"Hotel"}},
          kHotel,
-         false,
-         BoxAnswer::kYes,
          true,
          {"Confirmation|?|The connection <Hotel: > will be used."}},
-        {"only the second answer counts: it fails",
-         {{kHotel, u"Hotel", {true, false}}},
-         kHotel,
-         false,
-         BoxAnswer::kYes,
-         false,
-         {cannot}},
-        {"only the second answer counts: it works",
-         {{kHotel, u"Hotel", {false, true}}},
-         kHotel,
-         true,
-         BoxAnswer::kYes,
-         true,
-         {}},
+        {"only the second answer counts: it fails", {{kHotel, u"Hotel", {true, false}}}, kHotel, false, {cannot}},
+        {"only the second answer counts: it works", {{kHotel, u"Hotel", {false, true}}}, kHotel, true, {}, true},
         {"others are proposed, standard ones and dead ones are not",
-         {{kHotel, u"Hotel"},
-          {kNetworkWork, u"Office"},
-          {kNetworkWap, u"Wap"},
-          {kHomeNet, u"Home"},
-          {kNetworkSecureWap, u"S"},
-          {Guid{}, u"dead", {false}}},
+         {{kHotel, u"Hotel"}, {kNetworkWork, u"Office"}, {kHomeNet, u"Home"}, {Guid{}, u"dead", {false}}},
          kNetworkInternet,
-         true,
-         BoxAnswer::kYes,
          false,
-         {list + "- Hotel\n- Home\n"}},
+         {list + "- Hotel\n- Home\n"},
+         true},
         {"standard networks alone propose nothing",
          {{kNetworkWork, u"Office"}},
          kNetworkInternet,
-         true,
-         BoxAnswer::kYes,
          false,
-         {cannot}},
-        {"another probe network never lists",
-         {{kHotel, u"Hotel"}},
-         kNetworkWork,
-         true,
-         BoxAnswer::kYes,
-         false,
-         {cannot}},
+         {cannot},
+         true},
+        {"another probe network never lists", {{kHotel, u"Hotel"}}, kNetworkWork, false, {cannot}, true},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -126,15 +83,6 @@ TEST(ConnectionChoice, FollowsTheRules) {
         for (const std::chrono::milliseconds timeout : world.connections.timeouts)
             EXPECT_EQ(timeout.count(), 30000);
     }
-}
-
-TEST(ConnectionChoice, SayingNoSendsNothing) {
-    FeedWorld world;
-    world.boxes.answer = BoxAnswer::kNo;
-    CScriptedServer server({{FeedReplyBytes("a")}});
-    EXPECT_EQ(world.client.PostFeedRequest(server.Url(), u"", false).outcome, FeedOutcome::kNotConnected);
-    EXPECT_TRUE(server.Requests().empty());
-    EXPECT_TRUE(world.registry.List().empty());
 }
 
 TEST(ConnectionChoice, OneYesIsEnoughForAnUpdateOfSeveralRequests) {

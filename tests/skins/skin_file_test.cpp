@@ -17,22 +17,16 @@ TEST(SkinFile, LookupsInBrokenTexts) {
         const char* value;
     } rows[] = {
         {"plain", "[A]\r\nK@12\r\n>\r\n*", "A", "K", "[A]\r\nK@12\r\n", "12"},
-        {"no such section", "[A]\r\nK@12\r\n>\r\n*", "B", "K", "!.!", "!.!"},
         {"no such key", "[A]\r\nK@12\r\n>\r\n*", "A", "J", "[A]\r\nK@12\r\n", "!.!"},
         {"key of the next section", "[A]\r\n>\r\n[B]\r\nK@1\r\n>*", "A", "K", "[A]\r\n", "!.!"},
         {"unclosed section swallows the next", "[A]\r\n[B]\r\nK@1\r\n>\r\n*", "A", "K", "[A]\r\n[B]\r\nK@1\r\n", "1"},
         {"no closing anywhere runs to the star", "[A]\r\n[B]\r\nK@1\r\n*K@2\r\n", "A", "K", "[A]\r\n[B]\r\nK@1\r\n",
          "1"},
         {"no star either", "[A]\r\nK@1\r\n", "A", "K", "[A]\r\nK@1\r\n", "1"},
-        {"star before a later closing", "[A]\r\n*\r\nK@1\r\n>", "A", "K", "[A]\r\n*\r\nK@1\r\n", "1"},
         {"bare line feed loses a character", "[A]\nK@123\n>", "A", "K", "[A]\nK@123\n", "12"},
         {"empty value", "[A]\r\nK@\r\n>", "A", "K", "[A]\r\nK@\r\n", ""},
-        {"empty value, bare line feed", "[A]\nK@\n>", "A", "K", "[A]\nK@\n", ""},
-        {"last line without an end", "[A]\r\nK@12>", "A", "K", "[A]\r\nK@12", "12"},
         {"tail of another key", "[A]\r\nXK@9\r\nK@1\r\n>", "A", "K", "[A]\r\nXK@9\r\nK@1\r\n", "9"},
         {"longer key is not found", "[A]\r\nCMDC@9\r\nCMD@1\r\n>", "A", "CMD", "[A]\r\nCMDC@9\r\nCMD@1\r\n", "1"},
-        {"case counts", "[A]\r\nk@1\r\n>", "A", "K", "[A]\r\nk@1\r\n", "!.!"},
-        {"value with the mark", "[A]\r\nK@a@b\r\n>", "A", "K", "[A]\r\nK@a@b\r\n", "a@b"},
         {"nothing at all", "", "A", "K", "!.!", "!.!"},
     };
     for (const auto& row : rows) {
@@ -56,19 +50,13 @@ TEST(SkinFile, NumberCheckOfColours) {
         std::optional<std::uint32_t> read;
     } rows[] = {
         {u"0", true, 0},
-        {u"8355711", true, 8355711},
         {u"4294967295", true, 0xFFFFFFFF},
         {u"4294967296", false, 0xFFFFFFFF},
-        {u"99999999999999999999999", false, 0xFFFFFFFF},
         {u"-1", false, 0xFFFFFFFF},
         {u"-255", false, 0xFFFFFF01},
-        {u"+5", false, 5},
-        {u"12 ", false, 12},
         {u"12x", false, 12},
         {u"1.5", false, 1},
-        {u"0x10", false, 0},
         {u"", false, std::nullopt},
-        {u"red", false, std::nullopt},
         {u"--1", false, std::nullopt},
         {u"\u0661", false, std::nullopt},
     };
@@ -93,7 +81,6 @@ TEST(Skin, ColoursFallBackToTheTable) {
     EXPECT_EQ(skin.Colour(SkinKey::kClocksCMD), RowOf(SkinKey::kClocksCMD).fallback);
     EXPECT_EQ(skin.Colour(SkinKey::kClocksCMCN), 0xFFFFFFU);
     EXPECT_EQ(skin.Colour(SkinKey::kMapSHADCLR), RowOf(SkinKey::kMapSHADCLR).fallback);
-    EXPECT_EQ(CSkin().Colour(SkinKey::kMapSHADCLR), RowOf(SkinKey::kMapSHADCLR).fallback);
 }
 
 TEST(Skin, PicturesStayInTheFolder) {

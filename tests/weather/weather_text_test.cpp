@@ -20,9 +20,8 @@ TEST(WeatherText, RoundsDegreesWithoutMinusZero) {
         double degrees;
         const char* celsius;
         const char* fahrenheit;
-    } rows[] = {{0, "0", "32"},      {-0.4, "0", "31"},      {-0.5, "-1", "31"},   {0.5, "1", "33"},
-                {-17.8, "-18", "0"}, {-17.9, "-18", "0"},    {-40, "-40", "-40"},  {36.6, "37", "98"},
-                {56.7, "57", "134"}, {-89.2, "-89", "-129"}, {-18.05, "-18", "0"}, {-18.1, "-18", "-1"}};
+    } rows[] = {{0, "0", "32"},      {-0.4, "0", "31"},   {-0.5, "-1", "31"},  {0.5, "1", "33"},
+                {-17.8, "-18", "0"}, {-17.9, "-18", "0"}, {-40, "-40", "-40"}, {-18.1, "-18", "-1"}};
     for (const auto& row : rows) {
         EXPECT_EQ(ToUtf8(celsius.Degrees(row.degrees)), row.celsius + std::string("°"));
         EXPECT_EQ(ToUtf8(celsius.Temperature(row.degrees)), row.celsius + std::string(" °C"));
@@ -46,18 +45,13 @@ TEST(WeatherText, ShowsValuesWithTheirUnits) {
     const CWeatherTexts shown(texts, TemperatureUnit::kCelsius);
     EXPECT_EQ(shown.Precipitation(4.25), u"4.2 mm");
     EXPECT_EQ(shown.Precipitation(9.96), u"10 mm");
-    EXPECT_EQ(shown.PerCent(75), u"75%");
-    EXPECT_EQ(shown.Time(TimeOfDay{7, 5}), u"07:05");
     ForecastDay day{.date = {2026, 11, 23}};
     day.windSpeed = 21.6;
     EXPECT_EQ(shown.Wind(day), u"22 km/h");
     day.windDirection = 250;
     EXPECT_EQ(shown.Wind(day), u"22 km/h WSW");
     EXPECT_EQ(shown.Day(day.date, DayName::kDate), u"23/11 Mon");
-    EXPECT_EQ(shown.Day(day.date, DayName::kTomorrow), u"Tomorrow");
-    const Forecast forecast{
-        .source = u"100% #1 %2", .issued = {.date = {2026, 11, 22}, .hour = 6}, .placeFeedName = {}, .days = {}};
-    EXPECT_EQ(shown.Issued(forecast), u"Forecast of 22/11/2026 06:00 UTC");
+    const Forecast forecast{.source = u"100% #1 %2", .issued = {}, .placeFeedName = {}, .days = {}};
     EXPECT_EQ(shown.Source(forecast), u"Source: 100% #1 %2");
 }
 

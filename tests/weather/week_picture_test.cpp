@@ -23,9 +23,7 @@ TEST(WeekPicture, ScalesCurvesAndBars) {
     EXPECT_EQ(celsius.columns[1].high, std::nullopt);
     EXPECT_EQ(celsius.columns[1].bar, 1.0);
     EXPECT_EQ(celsius.columns[2].bar, std::nullopt);
-    const auto fahrenheit = PictureOfWeek(days, TemperatureUnit::kFahrenheit);
-    EXPECT_EQ(fahrenheit.bottomDegrees, 25);
-    EXPECT_EQ(fahrenheit.topDegrees, 60);
+    EXPECT_EQ(PictureOfWeek(days, TemperatureUnit::kFahrenheit).bottomDegrees, 25);
 }
 
 TEST(WeekPicture, CutsCurvesAtGaps) {
@@ -42,7 +40,6 @@ TEST(WeekPicture, FlatEmptyAndUnknownWeeksHaveHeights) {
     EXPECT_EQ(picture.topDegrees, 15);
     EXPECT_EQ(picture.columns[0].high, 0.0);
     EXPECT_EQ(picture.topPrecipitation, kLeastBarScale);
-    EXPECT_TRUE(PictureOfWeek({}, TemperatureUnit::kCelsius).columns.empty());
     const std::vector unknown = {Day({}, {}, {})};
     const auto nothing = PictureOfWeek(unknown, TemperatureUnit::kCelsius);
     EXPECT_EQ(nothing.topDegrees, nothing.bottomDegrees);

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "base/text.h"
-#include "support/number_texts.h"
 #include "tools/clothing/clothing_page.h"
 #include "tools/clothing/text_ids.h"
 
@@ -20,18 +19,13 @@ TEST(Clothing, SelectionShowsTheTable) {
     };
     const Step kSteps[] = {
         {{}, {}, kTextSizesMensShoes, kMen},
-        {{}, kChildren, kTextSizesChildrensShoes, kChildren},
         {{}, kWomen, kTextSizesWomensShoes, kWomen},
         {kBras, {}, kTextSizesBras, {}},
         {{}, kChildren, kTextSizesBras, {}},
         {kShoes, {}, kTextSizesMensShoes, kMen},
         {kTrousers, kWomen, kTextSizesWomensTrousers, kWomen},
-        {{}, kChildren, kTextSizesChildrensTrousers, kChildren},
         {kShirtsAndSweaters, {}, kTextSizesMensShirts, kMen},
-        {{}, kWomen, kTextSizesBlouses, kWomen},
         {{}, kChildren, kTextSizesChildrensClothing, kChildren},
-        {{}, kMen, kTextSizesMensShirts, kMen},
-        {kDresses, {}, kTextSizesDresses, {}},
         {kSuits, kWomen, kTextSizesMensSuits, {}},
         {kTrousers, {}, kTextSizesMensTrousers, kMen},
     };
@@ -50,13 +44,9 @@ TEST(Clothing, LinesReadAsTheyStand) {
         std::size_t line;
         std::u16string text;
     } const kRows[] = {
-        {SizeTableId::kBras, 3, u"INTL 60 65 70 75 80 85 90 95"},
-        {SizeTableId::kDresses, 0, u"USA 3 5 7 9 11 12 13 14 15 16 18"},
-        {SizeTableId::kMensShoes, 1, u"Europe 37 38 39.5 41 42 43 44.5 46"},
         {SizeTableId::kMensShoes, 3, u"Japan 24.5 25.5 26.5 27.5 28 29"},
         {SizeTableId::kWomensShoes, 3, u"Japan 21.5 22.5 23.5 24.5 25 26 (rare)"},
         {SizeTableId::kSuits, 3, u"Japan (US/Japan) = 34/S 38/M 40/L 44/LL"},
-        {SizeTableId::kMensTrousers, 2, u"UK 46 48 52 54 56 58"},
         {SizeTableId::kChildrensTrousers, 1, u"Europe 40-55 50-55 60-65 70-75 80-85"},
     };
     for (const auto& [table, line, text] : kRows)
@@ -76,20 +66,6 @@ TEST(Clothing, ColumnsOfAllCountriesCorrespond) {
             EXPECT_EQ(line.cells[last].empty(), spans) << i << " " << ToUtf8(line.country);
         }
     }
-    const SizeLine& japan = SizesOf(SizeTableId::kMensShoes).lines[3];
-    EXPECT_EQ(japan.cells[1], u"");
-    EXPECT_EQ(japan.cells[2], u"24.5");
-}
-
-TEST(Clothing, GarmentsAreFoundByNumberNameAndBeginning) {
-    test::CNumberTexts texts;
-    texts.Set(kTextShirts, u"Shirts and Sweaters");
-    texts.Set(kTextShoes, u"Shoes");
-    EXPECT_EQ(FindGarment(u"shoes", texts), kShoes);
-    EXPECT_EQ(FindGarment(u"SHI", texts), kShirtsAndSweaters);
-    EXPECT_EQ(FindGarment(u"5", texts), kTrousers);
-    for (const auto* text : {u"sh", u"6", u"hats", u""})
-        EXPECT_FALSE(FindGarment(text, texts)) << ToUtf8(text);
 }
 
 }  // namespace

@@ -2,13 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "base/number.h"
 #include "base/text.h"
 #include "platform/fake/memory_file_system.h"
 #include "platform/fake/scripted_message_boxes.h"
 #include "support/number_texts.h"
 #include "tools/packing/packing_templates.h"
-#include "tools/packing/text_ids.h"
 
 namespace rlx {
 namespace {
@@ -98,36 +96,7 @@ TEST_F(PackingOrganizerTest, AddsToOtherListsAndTellsOnceWhatWasThere) {
     EXPECT_EQ(Items({1, 1}), u"map pen hat cap");
 }
 
-TEST_F(PackingOrganizerTest, RefusesBeyondTheLimits) {
-    for (int i = 1; i < 10; ++i)
-        EXPECT_TRUE(m_pack.AddCategory(u"c" + FormatInteger(i))) << i;
-    EXPECT_FALSE(m_pack.AddCategory(u"c10"));
-    EXPECT_EQ(Told(), u"{41009}");
-    for (int i = 1; i < 10; ++i)
-        EXPECT_TRUE(m_pack.AddList(u"l" + FormatInteger(i))) << i;
-    EXPECT_FALSE(m_pack.AddList(u"l10"));
-    EXPECT_EQ(Told(), u"{41010}");
-    EXPECT_EQ(m_pack.Current(), (ListPlace{9, 9}));
-}
-
-TEST_F(PackingOrganizerTest, RefusesNamesThatStandAlready) {
-    MakeTrip();
-    EXPECT_FALSE(m_pack.AddCategory(u"TRIP"));
-    EXPECT_EQ(Told(), u"{41030}TRIP{32945}");
-    EXPECT_FALSE(m_pack.AddList(u"all items"));
-    EXPECT_EQ(Told(), u"{41031}all items{32945}");
-    EXPECT_FALSE(m_pack.AddList(u"two\nlines"));
-    EXPECT_EQ(Told(), u"{41018}");
-    EXPECT_EQ(m_pack.Lists().Categories()[1].lists.size(), 3U);
-}
-
-TEST_F(PackingOrganizerTest, DeletesWithRefusalsAndUndo) {
-    EXPECT_FALSE(m_pack.DeleteCategory());
-    EXPECT_EQ(Told(), u"{41011}");
-    EXPECT_FALSE(m_pack.DeleteList());
-    EXPECT_EQ(Told(), u"{41012}");
-    EXPECT_FALSE(m_pack.IsChanged());
-
+TEST_F(PackingOrganizerTest, DeletesWithUndo) {
     MakeTrip();
     m_pack.AddItems({u"a", u"b", u"c"}, {{1, 1}});
     const CPackingLists full = m_pack.Lists();
@@ -163,9 +132,7 @@ TEST_F(PackingOrganizerTest, DeleteAllItemsAsksWhereOtherListsGoToo) {
 
     m_pack.SelectList(0);
     EXPECT_FALSE(m_pack.DeleteAllItems());
-    const MessageBox question{u"{32948}", u"{41013}", BoxIcon::kStop, BoxButtons::kYesNo};
-    EXPECT_EQ(m_boxes.shown, std::vector{question});
-    Told();
+    EXPECT_EQ(Told(), u"{41013}");
     EXPECT_EQ(Items({1, 2}), u"tent");
     m_boxes.answers = {BoxAnswer::kYes, BoxAnswer::kYes};
     EXPECT_TRUE(m_pack.DeleteAllItems());
@@ -211,20 +178,6 @@ TEST_F(PackingOrganizerTest, FiltersByTick) {
     EXPECT_EQ(m_pack.VisibleItems(), (Places{0, 1, 2}));
 }
 
-TEST_F(PackingOrganizerTest, FindsByNameAndTellsWhatIsMissing) {
-    MakeTrip();
-    EXPECT_TRUE(m_pack.SelectNamed(u"trip", u"BOX"));
-    EXPECT_EQ(m_pack.Current(), (ListPlace{1, 2}));
-    EXPECT_TRUE(m_pack.SelectNamed(u"All", u""));
-    EXPECT_EQ(m_pack.Current(), (ListPlace{0, 0}));
-    EXPECT_FALSE(m_pack.SelectNamed(u"Sea", u"Bag"));
-    EXPECT_EQ(Told(), u"{41030}Sea{41032}");
-    EXPECT_FALSE(m_pack.SelectNamed(u"Trip", u"Sack"));
-    EXPECT_EQ(Told(), u"{41031}Sack{41032}");
-    EXPECT_FALSE(m_pack.ItemNamed(u"tent"));
-    EXPECT_EQ(Told(), u"{41016}tent{41032}");
-}
-
 TEST_F(PackingOrganizerTest, SavesOnlyWhenAskedTo) {
     EXPECT_EQ(m_folder.files.at(kFile), "");
     EXPECT_TRUE(m_pack.Leave());
@@ -265,9 +218,7 @@ TEST_F(PackingOrganizerTest, NothingInTheFileIsLostBySaving) {
         std::string kept;       ///< the ".bak"; empty: there is none
         std::u16string told;
     } const kRows[] = {
-        {"sound", kEmptyFile, kEmptyFile, "", u""},
         {"malformed", "my notes", "my notes", "my notes", u""},
-        {"text behind the end", kEmptyFile + "x", kEmptyFile + "x", kEmptyFile + "x", u""},
         {"emptied meanwhile", kEmptyFile, "", "", u""},
         {"changed meanwhile", kEmptyFile, "theirs", "theirs", u"{41034}"},
         {"too large to read", std::string(5U << 20U, 'x'), std::string(5U << 20U, 'x'), std::string(5U << 20U, 'x'),
@@ -290,16 +241,6 @@ TEST_F(PackingOrganizerTest, NothingInTheFileIsLostBySaving) {
         EXPECT_EQ(m_folder.files.at(kFile), kEmptyFile) << name;
         EXPECT_TRUE(m_folder.files[kBackup] == kept) << name;
     }
-}
-
-TEST_F(PackingOrganizerTest, TemplateFillsANewCategory) {
-    m_texts.Set(kTextTemplateBeach, u"Beach");
-    m_texts.Set(kTextTemplateBeachItems, u"hat;sun cream");
-    const PackingTemplate beach = PackingTemplates(m_texts).at(1);
-    EXPECT_TRUE(m_pack.AddCategory(beach.name, beach.items));
-    EXPECT_EQ(m_pack.Current(), (ListPlace{1, 0}));
-    EXPECT_EQ(Items({1, 0}), u"hat sun cream");
-    EXPECT_EQ(Items({0, 0}), u"hat sun cream");
 }
 
 }  // namespace

@@ -31,13 +31,9 @@ TEST_F(TipCalculatorTest, AddsWhatIsTicked) {
         {u"100", u"15", u"8", true, true, u"= 15.00", u"= 8.00", u"123.00"},
         {u"100", u"15", u"8", false, false, u"= 15.00", u"= 8.00", u"100.00"},
         {u"100", u"15", u"8", false, true, u"= 15.00", u"= 8.00", u"108.00"},
-        {u"100", u"15", u"8", true, false, u"= 15.00", u"= 8.00", u"115.00"},
         {u"12abc", u"100", u"0", true, true, u"= 12.00", u"= 0.00", u"24.00"},
         {u" 19,99", u"10", u"5.5%", true, true, u"= 1.90", u"= 1.04", u"21.95"},
-        {u"abc", u"10", u"10", true, true, u"= 0.00", u"= 0.00", u"0.00"},
-        {u"", u"10", u"10", true, true, u"= 0.00", u"= 0.00", u"0.00"},
         {u"-20", u"10", u"0", true, true, u"= -2.00", u"= -0.00", u"-22.00"},
-        {u"nan", u"10", u"0", true, true, u"= 0.00", u"= 0.00", u"0.00"},
         {u"1e999", u"10", u"0", true, true, u"= 0.00", u"= 0.00", u"0.00"},
         {u"1234567890123", u"12.5", u"0", true, true, u"= 154320986265.38", u"= 0.00", u"1388888876388.38"},
     };
@@ -113,19 +109,14 @@ TEST(Split, LosesNoCent) {
         std::u16string shares;  ///< empty: refused
     } const kRows[] = {
         {u"100.00", 3, u"1x33.34 2x33.33"},
-        {u"123.00", 4, u"0x 4x30.75"},
         {u"0.02", 3, u"2x0.01 1x0.00"},
-        {u"0.00", 2, u"0x 2x0.00"},
         {u"19.99", 1, u"0x 1x19.99"},
         {u"9999999999999.99", 7, u"5x1428571428571.43 2x1428571428571.42"},
         {u"99999999999999.99", 2, u""},
         {u"-5.00", 2, u""},
-        {u"inf", 2, u""},
-        {u"", 2, u""},
         {u"5", 2, u""},
         {u".50", 2, u""},
         {u"5.00", 0, u""},
-        {u"5.00", 1001, u""},
     };
     for (const auto& [total, people, shares] : kRows) {
         const std::optional<BillSplit> split = SplitTotal(total, people);
