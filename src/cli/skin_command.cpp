@@ -30,6 +30,7 @@ std::filesystem::path FullPath(const std::string& word) {
 
 std::vector<std::u16string> LinesOf(const std::vector<SkinFault>& faults, const ITexts& texts) {
     std::vector<std::u16string> lines;
+    lines.reserve(faults.size());
     for (const SkinFault& fault : faults)
         lines.push_back(FaultText(fault, texts));
     return lines;

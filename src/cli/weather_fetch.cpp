@@ -15,6 +15,7 @@ std::vector<PlaceUpdate> FetchWeather(CSession& session, CWeatherStore& store, C
         return client.PostFeedRequest(*address, parameters.WeatherParameters(feedName, {}), false);
     };
     std::vector<std::u16string> places;
+    places.reserve(cities.size());
     for (const auto city : cities)
         places.push_back(session.Cities().GetPlace(city));
     CWeatherUpdate update(store, request, session.Boxes(), session.Texts());

@@ -21,7 +21,8 @@ ClockOffset ReferenceAt(const DeviceZone& zone, const DateTime& device) {
 /// Second number of what the clock shows. An hour 24 runs on into the next day.
 std::int64_t Shown(GmtOffset gmt, const ClockOffset& reference, const DateTime& device) {
     const CityTime time = CityTimeOf(gmt, reference, device);
-    return DayNumber(CityDateOf(gmt, reference, device)) * 86400 + time.hour * 3600 + time.minute * 60 + time.second;
+    const std::int64_t minutes = time.hour * 60 + time.minute;
+    return DayNumber(CityDateOf(gmt, reference, device)) * 86400 + minutes * 60 + time.second;
 }
 
 std::int64_t ShownAt(const CityZone& city, const DeviceZone& zone, const DateTime& device) {

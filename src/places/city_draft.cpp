@@ -61,7 +61,7 @@ std::optional<std::u16string> OffsetOf(std::u16string_view text) {
         offset = {static_cast<int>(*whole), static_cast<int>(front.starts_with(u'-') ? -*minutes : *minutes)};
     }
     const std::int64_t total = std::abs(offset.hours * std::int64_t{60} + offset.minutes);
-    if (std::abs(offset.minutes) > 59 || total > kFarthestOffset * 60) return std::nullopt;
+    if (std::abs(offset.minutes) > 59 || total > std::int64_t{kFarthestOffset} * 60) return std::nullopt;
     if (offset.minutes == 0) return FormatInteger(offset.hours);
     if (offset.hours == 0) return std::nullopt;
     return FormatInteger(offset.hours * 100 + offset.minutes);
@@ -79,7 +79,7 @@ public:
     CChecker(const CCityDraft& draft, const ITexts& texts) : m_draft(draft), m_texts(texts) {}
 
     std::u16string Name(CityField field, TextId missing) {
-        const std::u16string text = Trim(m_draft[field]);
+        std::u16string text = Trim(m_draft[field]);
         if (text.empty()) Fail(field, m_texts.Text(missing));
         if (const auto strange = StrangeCharacter(text, u";:>"))
             Fail(field, FillText(m_texts.Text(kTextCityCharacter), {*strange}));
@@ -88,12 +88,12 @@ public:
         return text;
     }
     std::u16string Degrees(CityField field, double limit, TextId range) {
-        const std::u16string text = Trim(m_draft[field]);
+        std::u16string text = Trim(m_draft[field]);
         if (!IsDegrees(text, limit) || text.size() > kLongestName) Fail(field, m_texts.Text(range));
         return text.starts_with(u'+') ? text.substr(1) : text;
     }
     std::u16string Zone(const CityFields* before, ITimeZones& zones) {
-        const std::u16string text = Trim(m_draft[CityField::kZone]);
+        std::u16string text = Trim(m_draft[CityField::kZone]);
         if (text.empty()) return std::u16string(kNoZone);
         const bool stays = before != nullptr && before->zone == text;
         if (!stays && !zones.Offsets(ToUtf8(text), 0, 1))

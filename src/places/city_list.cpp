@@ -25,7 +25,7 @@ void Append(std::string& bytes, const CityFields& city) {
 
 }  // namespace
 
-CityList ParseCityList(std::string bytes) {
+CityList ParseCityList(const std::string& bytes) {
     CityList list;
     std::size_t end = bytes.find('\n');
     end = end == std::string::npos ? bytes.size() : end + 1;
@@ -51,7 +51,7 @@ std::optional<std::string> CityListBytes(const CityList& list) {
 std::optional<CityList> ReadCityList(IFileSystem& files, const std::filesystem::path& file) {
     auto bytes = files.ReadFile(file, kMaxCityFile);
     if (!bytes) return std::nullopt;
-    return ParseCityList(std::move(*bytes));
+    return ParseCityList(*bytes);
 }
 
 }  // namespace rlx

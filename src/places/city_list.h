@@ -19,7 +19,7 @@ struct CityList {
     friend bool operator==(const CityList&, const CityList&) = default;
 };
 
-CityList ParseCityList(std::string bytes);
+CityList ParseCityList(const std::string& bytes);
 
 /// The bytes of the file. Nothing when they would not be read back as `list`: a field holds a delimiter, an end mark, a
 /// character outside ISO 8859-1, or is too long.

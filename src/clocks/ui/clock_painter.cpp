@@ -97,7 +97,7 @@ void PaintTime(QPainter& painter, const QRectF& line, const ClockTexts& texts, c
 /// Date and distance in one line; the day of the week gives way where there is no room for both.
 QString DateWithDistance(const ClockTexts& texts, const QRectF& line) {
     if (texts.shortNote.isEmpty()) return texts.date;
-    const QString both = texts.date + QStringLiteral("  ") + texts.shortNote;
+    QString both = texts.date + QStringLiteral("  ") + texts.shortNote;
     const QFont font = FittingFont(both, line.width(), line.height(), false);
     if (QFontMetricsF(font).horizontalAdvance(both) <= line.width() + 1) return both;
     return texts.date.section(' ', 0, 0) + QStringLiteral("  ") + texts.shortNote;
