@@ -6,13 +6,8 @@
 #include <QTest>
 
 #include "platform/fake/fixed_clock.h"
-#include "platform/fake/memory_file_system.h"
-#include "platform/fake/memory_object_store.h"
-#include "platform/fake/memory_registry.h"
-#include "platform/image/image_codec.h"
-#include "shell/registry_store.h"
-#include "shell/resources.h"
 #include "shell/setting_names.h"
+#include "ui/tools/tools_test_device.h"
 
 namespace rlx {
 namespace {
@@ -30,7 +25,8 @@ class CurrencyScreen : public ::testing::Test {
 protected:
     CurrencyScreen() {
         database.EnsureCreated(kList);
-        screen.emplace(CCurrencyScreen::Source{database, registry, Date{2026, 9, 29}}, clock, resources, look);
+        screen.emplace(CCurrencyScreen::Source{database, device.registry, Date{2026, 9, 29}}, clock, device.resources,
+                       device.look);
         screen->resize(480, 560);
         screen->show();
     }
@@ -58,19 +54,13 @@ protected:
     QString Text(const char* name) { return screen->findChild<QLabel*>(name)->text(); }
 
     void WriteDate(std::u16string_view date, std::u16string_view source) {
-        CRegistryStore settings(registry);
-        settings.WriteString(RootOf(keys::kCurrencies), keys::kCurrencies, names::kRatesDate, date);
-        settings.WriteString(RootOf(keys::kCurrencies), keys::kCurrencies, names::kRatesSource, source);
+        device.settings.WriteString(RootOf(keys::kCurrencies), keys::kCurrencies, names::kRatesDate, date);
+        device.settings.WriteString(RootOf(keys::kCurrencies), keys::kCurrencies, names::kRatesSource, source);
     }
 
-    CMemoryFileSystem files;
-    CImageCodec codec;
-    CLook look{files, codec};
-    CResources resources;
-    CMemoryRegistry registry;
+    test::ToolsDevice device;
     CFixedClock clock{{{2026, 10, 2}, 12, 0, 0, 0}};
-    CMemoryObjectStore store;
-    CCurrencyDatabase database{store};
+    CCurrencyDatabase database{device.store};
     std::optional<CCurrencyScreen> screen;
 };
 
@@ -92,7 +82,7 @@ TEST_F(CurrencyScreen, CurrencyIsFoundByCodeNameAndCountryAndRemembered) {
     EXPECT_EQ(Amount(0, 1)->text(), "80.00");
     Choose(0, 1, "gbp");
     EXPECT_EQ(Amount(0, 1)->text(), "50.00");
-    const std::uint32_t stored = CRegistryStore(registry).ReadDwordOr(keys::kCurrencies, names::kPairs[0], 0);
+    const std::uint32_t stored = device.settings.ReadDwordOr(keys::kCurrencies, names::kPairs[0], 0);
     EXPECT_EQ(stored, EncodePair({kYen, kPound}));
 }
 
@@ -101,7 +91,7 @@ TEST_F(CurrencyScreen, SwapTurnsThePairAndKeepsTheAmount) {
     QTest::mouseClick(Find<QToolButton>(0, "swap"), Qt::LeftButton);
     EXPECT_EQ(Amount(0, 0)->text(), "100");
     EXPECT_EQ(Amount(0, 1)->text(), "125.00");
-    const std::uint32_t stored = CRegistryStore(registry).ReadDwordOr(keys::kCurrencies, names::kPairs[0], 0);
+    const std::uint32_t stored = device.settings.ReadDwordOr(keys::kCurrencies, names::kPairs[0], 0);
     EXPECT_EQ(stored, EncodePair({kEuro, kDollar}));
 }
 
@@ -155,28 +145,12 @@ TEST_F(CurrencyScreen, UpdateBringsNewRatesAndTheLabel) {
     EXPECT_EQ(Text("updateLabel"), "Upd. 2/10/2026 ");
 }
 
-TEST_F(CurrencyScreen, NothingIsCutOffAtAnySize) {
-    WriteDate(u"2026-10-01", u"127.0.0.1");
-    screen->Refresh();
-    for (const QSize& size : {QSize(240, 246), QSize(276, 210), QSize(480, 540), QSize(1100, 760)}) {
-        screen->resize(size);
-        QCoreApplication::processEvents();
-        const QString named = QStringLiteral("%1x%2").arg(size.width()).arg(size.height());
-        int bottom = 0;
-        for (const char* name : {"pair0", "pair1", "pair2", "update"}) {
-            const auto* widget = screen->findChild<QWidget*>(name);
-            EXPECT_TRUE(screen->rect().contains(widget->geometry())) << named.toStdString() << ' ' << name;
-            EXPECT_GE(widget->y(), bottom) << named.toStdString() << ' ' << name;
-            bottom = widget->geometry().bottom();
-        }
-    }
-}
-
 TEST_F(CurrencyScreen, MissingListIsSaidInWords) {
     CMemoryObjectStore none;
     CCurrencyDatabase empty{none};
     empty.EnsureCreated({});
-    CCurrencyScreen bare(CCurrencyScreen::Source{empty, registry, std::nullopt}, clock, resources, look);
+    CCurrencyScreen bare(CCurrencyScreen::Source{empty, device.registry, std::nullopt}, clock, device.resources,
+                         device.look);
     bare.show();
     EXPECT_TRUE(bare.findChild<QLabel*>("noCurrencies")->isVisible());
     EXPECT_FALSE(bare.findChild<QWidget*>("pair0")->isVisible());
