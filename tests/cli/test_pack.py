@@ -63,6 +63,7 @@ class Pack(RlxTest):
             ("delete-item|Trip|Bag|HAT", [], [everything, ("Trip", trip[1], ("Bag", "hat1"), ("bag",))]),
             ("delete-list|Trip|BAG", [], [everything, ("Trip", ("All Items", "Hat0"), ("bag",))]),
             ("delete-category|TRIP", [], [everything]),
+            ("clear|Trip|Bag", [], [everything, ("Trip", trip[1], ("Bag",), ("bag",))]),
             ("clear|Trip|All Items|--yes", [CLEAR_CATEGORY], [everything, ("Trip", ("All Items",), ("Bag",), ("bag",))]),
             ("clear|All|All Items|--yes", [CLEAR_EVERYTHING],
              [("All", ("All Items",), ("Desk",)), ("Trip", ("All Items",), ("Bag",), ("bag",))]),

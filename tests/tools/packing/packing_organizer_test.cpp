@@ -120,32 +120,6 @@ TEST_F(PackingOrganizerTest, DeletesWithUndo) {
     EXPECT_FALSE(m_pack.EditItem(99, u"x"));
 }
 
-TEST_F(PackingOrganizerTest, DeleteAllItemsAsksWhereOtherListsGoToo) {
-    MakeTrip();
-    ASSERT_TRUE(m_pack.AddItem(u"tent", {{1, 2}}));
-    EXPECT_TRUE(m_pack.DeleteAllItems());
-    EXPECT_EQ(Told(), u"");
-    EXPECT_EQ(Items({1, 1}), u"");
-    EXPECT_EQ(Items({1, 2}), u"tent");
-
-    m_pack.SelectList(0);
-    EXPECT_FALSE(m_pack.DeleteAllItems());
-    EXPECT_EQ(Told(), u"{41013}");
-    EXPECT_EQ(Items({1, 2}), u"tent");
-    m_boxes.answers = {BoxAnswer::kYes, BoxAnswer::kYes};
-    EXPECT_TRUE(m_pack.DeleteAllItems());
-    Told();
-    EXPECT_EQ(Items({1, 2}), u"");
-    EXPECT_EQ(Items({0, 0}), u"tent");
-
-    EXPECT_TRUE(m_pack.UndoDelete());
-    m_pack.SelectCategory(0);
-    EXPECT_TRUE(m_pack.DeleteAllItems());
-    EXPECT_EQ(Told(), u"{41014}");
-    EXPECT_EQ(Items({1, 2}) + Items({1, 0}) + Items({0, 0}), u"");
-    EXPECT_EQ(m_pack.Lists().Categories()[1].lists.size(), 3U);
-}
-
 TEST_F(PackingOrganizerTest, EditedItemKeepsAllItemsWhole) {
     MakeTrip();
     m_pack.AddItems({u"shrit", u"hat"}, {{1, 1}, {1, 2}});

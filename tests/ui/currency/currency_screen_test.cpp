@@ -42,13 +42,8 @@ protected:
         QTest::keyClicks(Amount(pair, side), text);
     }
 
-    /// Opens the list of a currency, types and takes the first that fits.
     void Choose(int pair, int side, const char* typed) {
-        QTest::keyClicks(Find<CSearchCombo>(pair, side == 0 ? "currency0" : "currency1"), typed);
-        auto* popup = screen->findChild<CSearchPopup*>();
-        ASSERT_NE(popup, nullptr);
-        QTest::keyClick(popup->findChild<QLineEdit*>("searchField"), Qt::Key_Return);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        test::ChooseIn(*screen, Find<CSearchCombo>(pair, side == 0 ? "currency0" : "currency1"), typed);
     }
 
     QString Text(const char* name) { return screen->findChild<QLabel*>(name)->text(); }

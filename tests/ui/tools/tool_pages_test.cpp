@@ -22,13 +22,8 @@ class ConverterTool : public ::testing::Test {
 protected:
     ConverterTool() { ShowAt(page, {240, 216}); }
 
-    /// Opens the list of units, types and takes the best match.
     void Choose(const char* combo, const char* typed) {
-        QTest::keyClicks(test::Child<CSearchCombo>(page, combo), typed);
-        auto* popup = page.findChild<CSearchPopup*>();
-        ASSERT_NE(popup, nullptr);
-        QTest::keyClick(popup->findChild<QLineEdit*>("searchField"), Qt::Key_Return);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        test::ChooseIn(page, test::Child<CSearchCombo>(page, combo), typed);
     }
 
     void Category(int index) {
