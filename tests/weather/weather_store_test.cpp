@@ -97,6 +97,7 @@ TEST_F(WeatherStore, AForecastFromTheFutureShutsNothingOut) {
 TEST_F(WeatherStore, RubbishInTheDatabaseIsNoForecast) {
     Open().EnsureCreated();
     ASSERT_EQ(Save(kParis, test::kGoodReply), SaveOutcome::kSaved);
+    EXPECT_EQ(Stored(PROP_WEATHER_DATES), u"2026-11-22T20:00Z;2026-11-22T18:00Z;Open-Meteo");
     const auto database = m_objects.Open(kWeatherDatabase);
     const auto id = database->SeekValue(PROP_WEATHER_PLACE, kParis).value();
     const Record good = database->Read(id).value();

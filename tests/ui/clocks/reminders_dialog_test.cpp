@@ -58,6 +58,9 @@ TEST_F(RemindersDialogs, EditorWarnsOfTimesAroundAChangeOfClocks) {
                       {u"New York:United States",
                        {{2026, 10, 31}, 20, 30, 0, 0},
                        "The clocks go back and show this time twice; the first counts."},
+                      {u"Sydney:Australia",
+                       {{2026, 10, 4}, 9, 30, 0, 0},
+                       "World Clocks shows 10:30 there: it changes its clocks by the day, reminders by the hour."},
                       {u"Atlantis:Nowhere",
                        {{2026, 6, 1}, 9, 30, 0, 0},
                        "Atlantis is not in the list of cities. The clock of Amsterdam counts."}};

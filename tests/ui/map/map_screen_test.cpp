@@ -84,6 +84,14 @@ TEST_F(MapScreen, TapNearACitySelectsItAndAnotherTellsAboutIt) {
     EXPECT_EQ(told, (std::vector<CityIndex>{4, 3}));
 }
 
+TEST_F(MapScreen, CitiesOutsideTheFiveAreFoundToo) {
+    device.Write(names::kClocks[3], 0);
+    screen.Refresh();
+    Show();
+    Tap({35.7, 139.7});
+    EXPECT_EQ(screen.Selected(), 4U);
+}
+
 TEST_F(MapScreen, ScrubberMovesClockPanelAndNightAndNowReturns) {
     TakeWhiteMap();
     Show();

@@ -114,6 +114,10 @@ TEST_F(PackingPage, FiltersAndSaysWhichOne) {
     Find<QToolButton>("filterMark").click();
     EXPECT_EQ(Rows().size(), 2);
     EXPECT_TRUE(Find<QToolButton>("filterMark").isHidden());
+    Command(kCommandShowChecked);
+    EXPECT_EQ(Rows(), QStringList({"+Map", "+Hat"}));
+    Command(kCommandUncheckAll);
+    EXPECT_EQ(m_view.EmptyText(), "No item is checked.");
 }
 
 TEST_F(PackingPage, AddsItems) {

@@ -19,7 +19,7 @@ protected:
         option.state = state | QStyle::State_Enabled | QStyle::State_Raised;
         option.palette = QPalette(QColor(62, 102, 98), QColor(16, 38, 42));
         option.palette.setColor(QPalette::ButtonText, Qt::white);
-        option.palette.setColor(QPalette::Highlight, QColor(28, 90, 110));
+        option.palette.setColor(QPalette::Highlight, m_accent);
         option.palette.setColor(QPalette::HighlightedText, Qt::white);
         QImage image(option.rect.size(), QImage::Format_RGB32);
         image.fill(QColor(16, 38, 42));
@@ -30,6 +30,7 @@ protected:
 
     static int Lightness(const QImage& image, const QPoint& at) { return image.pixelColor(at).lightness(); }
 
+    QColor m_accent{28, 90, 110};
     CWindowStyle m_style;
 };
 
@@ -38,6 +39,13 @@ TEST_F(WindowStyle, FocusFromTheKeyboardIsSeenOnDarkSkins) {
     const int plain = Lightness(Draw({}), edge);
     EXPECT_GT(Lightness(Draw(QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange), edge), plain + 100);
     EXPECT_LT(Lightness(Draw(QStyle::State_HasFocus), edge), plain + 100) << "by a tap";
+}
+
+TEST_F(WindowStyle, PressedButtonsDifferInGroundAndFrame) {
+    const QImage released = Draw({});
+    const QImage pressed = Draw(QStyle::State_On);
+    EXPECT_EQ(pressed.pixelColor(10, 5), m_accent);
+    EXPECT_GT(Lightness(pressed, {2, 14}), Lightness(released, {2, 14}) + 100);
 }
 
 }  // namespace

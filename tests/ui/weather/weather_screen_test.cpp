@@ -148,6 +148,7 @@ TEST_F(WeatherScreen, DaysOfTheCityFromTodayOnWithADashForWhatIsMissing) {
     EXPECT_EQ(Card(1), "Tomorrow, Light rain, High 11 °C, Low -6 °C, Chance of rain 75%");
     Click("unit");
     EXPECT_EQ(Card(1), "Tomorrow, Light rain, High 51 °F, Low 21 °F, Chance of rain 75%");
+    EXPECT_EQ(device.settings.ReadDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kFahrenheit), 1U);
     Click("unit");
     EXPECT_EQ(Card(3), "25/11 Wed, not available, High –, Low –, Chance of rain –");
     EXPECT_TRUE(Find("day4")->isVisible());
