@@ -40,12 +40,7 @@ class Refresh(RlxTest):
         self.answer("city", "refresh", status=1,
                     messages=["The system has no time-zone data. The rules stay as they are."])
         self.assertEqual(self.read("cities.lst"), before)
-        for wrong in ("1969", "2200", "soon", ""):
-            self.assertEqual(self.run_rlx("city", "refresh", f"--year={wrong}").returncode, 2, wrong)
-        (self.home / "cities.lst").unlink()
-        self.store.unlink(missing_ok=True)
-        answer = self.run_rlx("--json", "city", "refresh")
-        self.assertEqual(answer.returncode, 1)
+        self.assertEqual(self.run_rlx("city", "refresh", "--year=2200").returncode, 2)
 
     def test_unfinished_change_is_ended_at_the_next_start(self):
         self.cities("2\n" + PARIS.format("1;0;0;0;0;0") + TOKYO)

@@ -43,7 +43,6 @@ class Feeds(FeedTest):
         rows = [
             ("offline", "1005", b"EUR_9#", ["--yes", "--offline"], [CANNOT_UPDATE, SYNC_FAILED], 0),
             ("refused by the user", "1005", b"EUR_9#", ["--no"], [CONFIRMATION, CANNOT_UPDATE, SYNC_FAILED], 0),
-            ("unknown code", "1234", b"EUR_9#", ["--yes"], [CONFIRMATION, SYNC_FAILED], 1),
         ]
         for name, code, page, options, messages, requests in rows:
             with self.subTest(name):

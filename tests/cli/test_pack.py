@@ -60,6 +60,7 @@ class Pack(RlxTest):
         trip = ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat1"), ("bag",))
         rows = (  # words, messages, categories afterwards
             ("tick|Trip|Bag|Hat", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat1", "hat1"), ("bag",))]),
+            ("untick|All|All Items|Hat", [], [("All", ("All Items", "Map0", "Hat0"), ("Desk", "Map1")), trip]),
             ("uncheck|Trip|Bag", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat0"), ("bag",))]),
             ("delete-item|Trip|Bag|HAT", [], [everything, ("Trip", trip[1], ("Bag", "hat1"), ("bag",))]),
             ("delete-list|Trip|BAG", [], [everything, ("Trip", ("All Items", "Hat0"), ("bag",))]),
@@ -104,14 +105,6 @@ class Pack(RlxTest):
             self.answer(*words, "n10", status=1, messages=[message])
             self.assertEqual(self.file.read_bytes(), before)
 
-    def test_malformed_file_is_kept_beside(self):
-        self.file.write_bytes(b"shopping: milk\n")
-        self.answer("pack", "show")
-        self.assertEqual((self.file.read_bytes(), self.backup.exists()), (b"shopping: milk\n", False))
-        self.answer("pack", "add-item", "All", "All Items", "Hat")
-        self.assertEqual(self.backup.read_bytes(), b"shopping: milk\n")
-        self.assertEqual(self.file.read_bytes(), packed(("All", ("All Items", "Hat0"))))
-
     def test_file_that_cannot_be_replaced(self):
         self.file.mkdir()
         self.answer("pack", "add-category", "Trip", status=1,
@@ -122,7 +115,6 @@ class Pack(RlxTest):
 class Tip(RlxTest):
     def test_answers(self):
         rows = (  # words, first amount, second amount, total
-            ("100 --first 15 --second 8", "= 15.00", "= 8.00", "123.00"),
             ("100 --first 15 --second 8 --no-first", "= 15.00", "= 8.00", "108.00"),
             ("100 --no-second --first 15 --second 8", "= 15.00", "= 8.00", "115.00"),
             ("-0.5 --first 0", "= -0.00", "= -0.00", "-0.50"))

@@ -12,16 +12,6 @@ DATA = PROJECT / "data"
 INVALID = "Skin description file corrupted or some skin files are missing!"
 NONE = "No skins available in this Directory"
 
-# name of the row, what to replace, by what, words of the only fault (None: still valid)
-CHANGES = [
-    ("nothing changed", b"", b"", None),
-    ("a colour is missing", b"CMDC@", b"XXXX@", ["Clocks", "CMDC"]),
-    ("a colour beyond 32 bits", b"SHADCLR@8355711", b"SHADCLR@4294967296", ["Map", "SHADCLR", "4294967296"]),
-    ("a picture is missing", b"BP@\\weather.jpg", b"BP@\\nothing.jpg", ["Weather", "BP", "\\Portrait\\nothing.jpg"]),
-    ("the folder of IF is missing", b"IF@\\Portrait\\", b"IF@\\Nowhere\\", ["General", "IF", "\\Nowhere"]),
-    ("a picture outside of the skin", b"MI@\\", b"MI@\\..\\..\\..\\", ["Map", "MI", ".."]),
-]
-
 
 class Show(RlxTest):
     def test_lookups(self):
@@ -49,17 +39,10 @@ class Skins(RlxTest):
         return self.answer("settings", "get", "Roamlytix", "skin")["value"]
 
     def test_checks(self):
-        for name, old, new, words in CHANGES:
-            with self.subTest(name):
-                self.file.write_bytes(self.text.replace(old, new, 1))
-                answer = self.answer("skin", "check", self.file)
-                self.assertEqual([answer["valid"], len(answer["faults"])], [words is None, 0 if words is None else 1])
-                for word in words or []:
-                    self.assertIn(word, answer["faults"][0])
-
-    def test_every_fault_is_told(self):
+        self.assertEqual(self.answer("skin", "check", self.file), {"valid": True, "faults": []})
         self.file.write_bytes(self.text.replace(b"CMD", b"XXX").replace(b"FBBC@", b"FBBC@-"))
-        self.assertEqual(len(self.answer("skin", "check", self.file)["faults"]), 3)
+        answer = self.answer("skin", "check", self.file)
+        self.assertEqual((answer["valid"], len(answer["faults"])), (False, 3))
         self.file.unlink()
         self.assertEqual(self.answer("skin", "check", self.file),
                          {"valid": False, "faults": ["The skin file cannot be opened."]})

@@ -39,12 +39,6 @@ class Weather(FeedTest):
         self.assertEqual(self.weather("0", now="2026-11-24T09:00:00"), [place | {"stale": True}])
         self.assertEqual([p["cityIndex"] for p in self.weather()], [0, 684, 756, 565])
 
-    def test_broken_reply_keeps_the_last_good_forecast(self):
-        good = self.weather("update", "ams")
-        self.serve(REPLY[:-8].encode())
-        message = "The forecast received for Amsterdam cannot be read. The last good one is kept."
-        self.assertEqual(self.weather("update", "ams", status=1, messages=[message]), good)
-
     def test_text_for_people(self):
         self.weather("update", "ams")
         done = self.run_rlx("weather", "ams", now=NOW)

@@ -182,6 +182,14 @@ TEST(FeedClient, QuietStoresTheNewsIdentifierAndAsksNothing) {
     EXPECT_EQ(world.Flag(names::kNewNews), 1);
 }
 
+TEST(FeedClient, WithoutAKnownIdentifierTheNewsCountAsZero) {
+    FeedWorld world;
+    CScriptedServer server({{FeedReplyBytes("a", "1005", "0")}});
+    world.client.PostFeedRequest(server.Url(), u"", false);
+    EXPECT_EQ(world.Text(names::kNewsId), "0");
+    EXPECT_EQ(world.Flag(names::kNewNews), 0);
+}
+
 TEST(FeedClient, CutsTheBodyAtTheLastLineThatFits) {
     const auto lines = [](std::size_t count, std::size_t length) {
         std::string body;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
 #include <QWidget>
@@ -35,35 +36,13 @@ private:
 };
 
 /// A sheet as large as the widget.
-class CTextDevice : public QPaintDevice {
+class CTextDevice : public QImage {
 public:
-    CTextDevice(const QSize& size, std::vector<PaintedText>& texts) : m_size(size), m_engine(texts) {}
+    CTextDevice(const QSize& size, std::vector<PaintedText>& texts) : QImage(size, Format_RGB32), m_engine(texts) {}
 
     QPaintEngine* paintEngine() const override { return &m_engine; }
 
-protected:
-    int metric(PaintDeviceMetric metric) const override {
-        switch (metric) {
-            case PdmWidth:
-                return m_size.width();
-            case PdmHeight:
-                return m_size.height();
-            case PdmDpiX:
-            case PdmDpiY:
-            case PdmPhysicalDpiX:
-            case PdmPhysicalDpiY:
-                return 96;
-            case PdmDepth:
-                return 32;
-            case PdmNumColors:
-                return 1 << 24;
-            default:
-                return 1;
-        }
-    }
-
 private:
-    QSize m_size;
     mutable CTextEngine m_engine;
 };
 

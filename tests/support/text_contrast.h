@@ -115,10 +115,10 @@ private:
 };
 
 /// A sheet to paint a window on.
-class CContrastSheet : public QObject, public QPaintDevice {
+class CContrastSheet : public QObject, public QImage {
 public:
     explicit CContrastSheet(const QSize& size)
-        : m_image(size, QImage::Format_RGB32), m_engine(m_image, m_widget, m_texts) {
+        : QImage(size, Format_RGB32), m_image(size, Format_RGB32), m_engine(m_image, m_widget, m_texts) {
         m_image.fill(Qt::white);
     }
     QPaintEngine* paintEngine() const override { return &m_engine; }
@@ -127,29 +127,6 @@ public:
         return false;
     }
     const std::vector<TextContrast>& Texts() const { return m_texts; }
-
-protected:
-    int metric(PaintDeviceMetric metric) const override {
-        switch (metric) {
-            case PdmWidth:
-                return m_image.width();
-            case PdmHeight:
-                return m_image.height();
-            case PdmDpiX:
-            case PdmDpiY:
-            case PdmPhysicalDpiX:
-            case PdmPhysicalDpiY:
-                return 96;
-            case PdmDepth:
-                return 32;
-            case PdmNumColors:
-                return 1 << 24;
-            case PdmDevicePixelRatioScaled:
-                return static_cast<int>(devicePixelRatioFScale());
-            default:
-                return 1;
-        }
-    }
 
 private:
     QImage m_image;

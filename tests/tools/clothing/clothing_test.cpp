@@ -38,22 +38,6 @@ TEST(Clothing, SelectionShowsTheTable) {
     }
 }
 
-TEST(Clothing, LinesReadAsTheyStand) {
-    struct {
-        SizeTableId table;
-        std::size_t line;
-        std::u16string text;
-    } const kRows[] = {
-        {SizeTableId::kMensShoes, 3, u"Japan 24.5 25.5 26.5 27.5 28 29"},
-        {SizeTableId::kWomensShoes, 3, u"Japan 21.5 22.5 23.5 24.5 25 26 (rare)"},
-        {SizeTableId::kSuits, 3, u"Japan (US/Japan) = 34/S 38/M 40/L 44/LL"},
-        {SizeTableId::kChildrensTrousers, 1, u"Europe 40-55 50-55 60-65 70-75 80-85"},
-    };
-    for (const auto& [table, line, text] : kRows)
-        EXPECT_EQ(LineText(SizesOf(table).lines[line]), text);
-    EXPECT_EQ(TitleText(u"Women's blouses && sweaters"), u"Women's blouses & sweaters");
-}
-
 TEST(Clothing, ColumnsOfAllCountriesCorrespond) {
     constexpr std::size_t kColumns[] = {8, 11, 8, 10, 6, 8, 7, 8, 10, 6, 6, 5};
     for (std::size_t i = 0; i < std::size(kColumns); ++i) {

@@ -108,20 +108,6 @@ protected:
     CConverterPage m_page{m_texts, m_boxes, m_settings};
 };
 
-TEST_F(ConverterPageTest, ComputesAfterEachChange) {
-    EXPECT_EQ(m_page.ResultText(), u"0");
-    m_page.SelectCategory(1);
-    m_page.SetValue(u"3");
-    m_page.SelectFrom(5);  // km
-    m_page.SelectTo(8);    // m
-    EXPECT_EQ(m_page.ResultText(), u"3000");
-    m_page.Swap();
-    EXPECT_EQ(m_page.ResultText(), u"0.003");
-    m_page.Reset();
-    EXPECT_EQ(m_page.ValueText(), u"0");
-    EXPECT_EQ(m_page.ResultText(), u"0");
-}
-
 TEST_F(ConverterPageTest, SaysWhatLiesBelowAbsoluteZero) {
     m_page.SelectCategory(kTemperatures);
     m_page.SetValue(u"-273.15");

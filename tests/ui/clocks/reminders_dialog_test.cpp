@@ -49,29 +49,23 @@ TEST_F(RemindersDialogs, EditorTellsWhatATimeMeansAndRefusesThePast) {
 TEST_F(RemindersDialogs, EditorWarnsOfTimesAroundAChangeOfClocks) {
     device.clock.Set({{2026, 3, 1}, 12, 0, 0, 0});
     struct {
-        const char16_t* place;
-        Date date;
-        int hour;
+        std::u16string place;
+        DateTime at;
         const char* warning;
     } const rows[] = {{u"Amsterdam:Netherlands",
-                       {2026, 3, 29},
-                       2,
-                       "The clocks go forward over this time; Amsterdam then shows 03:30, "
-                       "Sun 29/03/2026."},
+                       {{2026, 3, 29}, 2, 30, 0, 0},
+                       "The clocks go forward over this time; Amsterdam then shows 03:30, Sun 29/03/2026."},
                       {u"New York:United States",
-                       {2026, 10, 31},
-                       20,
+                       {{2026, 10, 31}, 20, 30, 0, 0},
                        "The clocks go back and show this time twice; the first counts."},
                       {u"Sydney:Australia",
-                       {2026, 10, 4},
-                       9,
+                       {{2026, 10, 4}, 9, 30, 0, 0},
                        "World Clocks shows 10:30 there: it changes its clocks by the day, reminders by the hour."},
                       {u"Atlantis:Nowhere",
-                       {2026, 6, 1},
-                       9,
+                       {{2026, 6, 1}, 9, 30, 0, 0},
                        "Atlantis is not in the list of cities. The clock of Amsterdam counts."}};
     for (const auto& row : rows) {
-        CReminderEditor editor(ports, {{row.date, row.hour, 30, 0, 0}, row.place, u""});
+        CReminderEditor editor(ports, {row.at, row.place, u""});
         const QStringList lines = editor.Control<QLabel>(kControlReminderNote)->text().split('\n');
         EXPECT_TRUE(lines.contains(row.warning)) << lines.join('|').toStdString();
     }

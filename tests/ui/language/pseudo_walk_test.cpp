@@ -27,43 +27,17 @@ namespace fs = std::filesystem;
 constexpr int kNotWalked[] = {kCommandUpdateRates, kCommandUpdateWeather, kCommandFetchNews, kCommandFullScreen,
                               kCommandExit};
 
-/// Data that is shown as it stands, by the widgets that show it.
+/// Data that is shown as it stands, by the widgets that show it: names of cities, countries, places, currencies, units,
+/// size systems, languages, modules, skins; paths of folders, numbers of colours, the city and day of a reminder, and
+/// the credits.
 constexpr const char* kShowData[] = {
-    "clocksScreen",
-    "mapScreen",
-    "mapClock",
-    "riseSetPanel",  // names of cities
-    "place0",
-    "place1",
-    "place2",
-    "place3",
-    "heading",  // names of weather places
-    "currency0",
-    "currency1",
-    "rate",  // codes and names of currencies
-    "fromUnit",
-    "toUnit",  // names of units
-    "internationalCodes",
-    "usAreaCodes",
-    "canadaAreaCodes",  // names of countries, cities and states
-    "sizeTable",        // names of size systems
-    "control_1021",     // cities to choose from
-    "control_1000",
-    "control_1012",
-    "control_1200",  // names of languages, modules and skins
-    "control_1010",
-    "control_1201",
-    "control_1390",
-    "control_1391",  // paths of folders
-    "control_1220",  // the number of a colour
-    "control_1051",  // units to edit
-    "control_1080",  // the credits, a file in English
-    "control_1323",  // name, country and zone of a city
-    "control_1324",
-    "control_1327",
-    "control_1371",  // the city and the day of a reminder
-    "control_1372",
-};
+    "clocksScreen", "mapScreen",    "mapClock",     "riseSetPanel", "place0",
+    "place1",       "place2",       "place3",       "heading",      "currency0",
+    "currency1",    "rate",         "fromUnit",     "toUnit",       "internationalCodes",
+    "sizeTable",    "control_1021", "control_1000", "control_1012", "control_1200",
+    "control_1010", "control_1201", "control_1390", "control_1391", "control_1220",
+    "control_1051", "control_1080", "control_1323", "control_1324", "control_1327",
+    "control_1371", "control_1372"};
 
 bool IsData(const QWidget& widget, const QString& text) {
     static const QRegularExpression kPerUnit("^/\\S+$");  // behind "Value" in the list of units
