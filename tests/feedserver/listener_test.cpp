@@ -158,9 +158,9 @@ TEST(HttpListener, DropsWhoNeverComesToAnEnd) {
         ASSERT_TRUE(client.Send(row.first)) << row.name;
         const auto begun = std::chrono::steady_clock::now();
         const auto waited = [begun] { return std::chrono::steady_clock::now() - begun; };
-        while (client.Send(row.more) && waited() < std::chrono::seconds(8))
+        while (client.Send(row.more) && waited() < std::chrono::seconds(20))
             client.Receive();
-        EXPECT_LT(waited(), std::chrono::seconds(5)) << row.name;
+        EXPECT_LT(waited(), std::chrono::seconds(10)) << row.name;
     }
 }
 
@@ -193,7 +193,7 @@ TEST(HttpListener, AnswersAllWhoAskInOneInstant) {
     goOn.set_value();
     int answered = 0;
     for (const auto& client : clients) {
-        client->SetPatience(std::chrono::seconds(4));
+        client->SetPatience(std::chrono::seconds(8));
         answered += client->Receive().starts_with("HTTP/1.1 200") ? 1 : 0;
     }
     EXPECT_EQ(answered, 129);

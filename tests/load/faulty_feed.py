@@ -8,6 +8,7 @@ with a time-out. `--serve FAULT` only runs the server, for trying the window. RL
 
 import argparse
 import concurrent.futures
+import contextlib
 import json
 import os
 import pathlib
@@ -27,7 +28,6 @@ FORECAST = ("weather_1#\nplace_oslo_no#\nsource_Test#\nissued_2026-07-10T18:00Z#
 GOOD = {"110": ["EUR_0.9#JPY_150#", "EUR_0.7#JPY_120#"], "111": [FORECAST.format(21), FORECAST.format(29)],
         "115": ["<html>one</html>", "<html>two</html>"]}
 COMMANDS = {"rates": ["rates", "update"], "weather": ["weather", "update", "Oslo"], "news": ["news", "fetch"]}
-HEAVY = b"x" * 3_000_000
 CANNOT = "Cannot update."
 LINE = "Cannot connect to Server({})."
 
@@ -43,95 +43,32 @@ def plain(status, body="<html>Somebody else's page", more=""):
     return f"HTTP/1.1 {status}\r\n{more}Content-Type: text/html\r\nContent-Length: {len(body)}\r\n\r\n{body}".encode()
 
 
-def hold(client):
-    """Until the client gives up."""
-    try:
-        while client.recv(1000):
+class Request:
+    """One request, and the ways to fail it."""
+
+    def __init__(self, client, here, good):
+        self.client, self.here, self.good = client, here, good
+        self.send = client.sendall
+        self.new = reply(good[1], news="n2")
+        self.half = reply(good[1][:8], news="n2", length=len(good[1]))
+
+    def hold(self):
+        """Until the client gives up."""
+        while self.client.recv(1000):
             pass
-    except OSError:
-        pass
 
+    def drip(self, data, pause):
+        for byte in data:
+            self.send(bytes([byte]))
+            time.sleep(pause)
 
-def drip(client, data, pause):
-    for byte in data:
-        client.sendall(bytes([byte]))
-        time.sleep(pause)
+    def reset(self, first=b""):
+        self.send(first)
+        time.sleep(0.2 if first else 0)
+        self.client.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
 
-
-def reset(client):
-    client.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
-
-
-class Faulty:
-    """Answers each request as its path says."""
-
-    def __init__(self, port=0):
-        self.listener = socket.create_server(("127.0.0.1", port), backlog=64)
-        self.port = self.listener.getsockname()[1]
-        self.here = f"http://127.0.0.1:{self.port}"
-        threading.Thread(target=self.accept, daemon=True).start()
-
-    def accept(self):
-        while True:
-            client, _ = self.listener.accept()
-            threading.Thread(target=self.serve, args=(client,), daemon=True).start()
-
-    def serve(self, client):
-        with client:
-            try:
-                request = b""
-                while b"\r\n\r\n" not in request or b"&wasize=" not in request:
-                    block = client.recv(65536)
-                    if not block:
-                        return
-                    request += block
-                job = request.split(b"jc=")[1][:3].decode()
-                if b"&cnid=n2&" in request:  # as a server does that knows what the client has
-                    client.sendall(reply("", "1007", news="n2"))
-                    return
-                self.answer(client, request.split()[1].decode()[1:], GOOD[job])
-            except OSError:
-                pass
-
-    def answer(self, client, fault, good):
-        new = reply(good[1], news="n2")
-        half = reply(good[1][:8], news="n2", length=len(good[1]))
-        moved = "302 Found"
-        actions = {
-            "good": lambda: client.sendall(reply(good[0])),
-            "newer": lambda: client.sendall(new),
-            "reset": lambda: reset(client),
-            "closed": lambda: None,
-            "no-http": lambda: client.sendall(b"\x07" * 300),
-            "cut-headers": lambda: client.sendall(new[:50]),
-            "cut-body": lambda: client.sendall(half),
-            "reset-body": lambda: (client.sendall(half), time.sleep(0.2), reset(client)),
-            "slow": lambda: drip(client, new, 0.002),
-            "no-code": lambda: client.sendall(plain("200 OK")),
-            "small-letters": lambda: client.sendall(new.replace(b"ServerMSG", b"servermsg")),
-            "code-1001": lambda: client.sendall(reply("", "1001")),
-            "code-1004": lambda: client.sendall(reply("", "1004")),
-            "code-1006": lambda: client.sendall(reply("", "1006")),
-            "code-1007": lambda: client.sendall(reply("", "1007")),
-            "code-9999": lambda: client.sendall(reply(good[1], "9999")),
-            "empty": lambda: client.sendall(reply("")),
-            "401": lambda: client.sendall(plain("401 Unauthorized")),
-            "404": lambda: client.sendall(plain("404 Not Found")),
-            "500": lambda: client.sendall(plain("500 Oh", "")),
-            "500-page": lambda: client.sendall(plain("500 Oh")),
-            "no-location": lambda: client.sendall(plain(moved)),
-            "loop": lambda: client.sendall(plain(moved, more=f"Location: {self.here}/loop\r\n")),
-            "to-https": lambda: client.sendall(plain(moved, more="Location: https://127.0.0.1/\r\n")),
-            "to-nobody": lambda: client.sendall(plain(moved, more=f"Location: http://127.0.0.1:{REFUSED}/\r\n")),
-            "to-good": lambda: client.sendall(plain(moved, more=f"Location: {self.here}/newer\r\n")),
-            "garbage": lambda: client.sendall(reply(bytes(range(256)) * 40)),
-            "heavy": lambda: client.sendall(reply(HEAVY)),
-            "stall": lambda: hold(client),
-            "stall-body": lambda: (client.sendall(half), hold(client)),
-            "drip-headers": lambda: drip(client, b"HTTP/1.1 200 OK\r\n" + b"X: y\r\n" * 10**4, 0.5),
-            "drip-body": lambda: drip(client, reply(good[1], length=10**6) + b"x" * 10**4, 0.5),
-        }
-        actions[fault]()
+    def move(self, to):
+        self.send(plain("302 Found", more=f"Location: {to}\r\n"))
 
 
 def unused_port():
@@ -140,49 +77,96 @@ def unused_port():
         return free.getsockname()[1]
 
 
-REFUSED = unused_port()
+def full_listener():
+    """A port whose queue of connections is full, so that none is answered; with what fills it."""
+    listener = socket.create_server(("127.0.0.1", 0), backlog=0)
+    waiting = [socket.socket() for _ in range(3)]
+    for each in waiting:
+        each.setblocking(False)
+        each.connect_ex(listener.getsockname())
+    return listener, waiting
+
+
+REFUSED, FULL = unused_port(), full_listener()
+ELSEWHERE = {"refused": f"http://127.0.0.1:{REFUSED}/", "dns": "http://nowhere.invalid/",
+             "unanswered": f"http://127.0.0.1:{FULL[0].getsockname()[1]}/"}
 SYNC = "Syncronisation failed"
 BROKEN = "The forecast received for Oslo cannot be read."
+RESET, CUT, LATE = (LINE.format(code) for code in (12031, 12030, 12002))
 FAIL, TAKEN, PAGE = range(3)  # how it ends: told and left, all is well, a body that is no data and yet a news page
+GOOD_REPLIES = {"good": lambda r: r.send(reply(r.good[0])), "newer": lambda r: r.send(r.new)}
 
-# The fault, its name for people, how it ends, the message that comes first, the seconds that it may take.
+# The fault, its name for people, how it ends, the message that comes first, what the server does.
 FAULTS = [
-    ("refused", "nobody listens", FAIL, CANNOT, 5),
-    ("dns", "no such name", FAIL, LINE.format(12007), 20),
-    ("reset", "breaks off", FAIL, LINE.format(12031), 5),
-    ("closed", "closes without a word", FAIL, LINE.format(12030), 5),
-    ("no-http", "no HTTP", FAIL, LINE.format(12152), 5),
-    ("cut-headers", "ends within the headers", FAIL, LINE.format(12030), 5),
-    ("cut-body", "ends within the body", FAIL, LINE.format(12030), 5),
-    ("reset-body", "breaks off within the body", FAIL, LINE.format(12031), 5),
-    ("slow", "good, but byte by byte", TAKEN, None, 9),
-    ("no-code", "200 without the headers of the protocol", FAIL, None, 5),
-    ("small-letters", "`servermsg` in small letters", FAIL, None, 5),
-    ("code-1001", "code 1001", FAIL, "Invalid request(1001).", 5),
-    ("code-1004", "code 1004", FAIL, "Server error(1004).", 5),
-    ("code-1006", "code 1006", FAIL, "Requested city not available(1006).", 5),
-    ("code-1007", "code 1007", FAIL, "There are no Updates available(1007).", 5),
-    ("code-9999", "a code that nobody knows, good body", FAIL, None, 5),
-    ("empty", "code 1005, no body", FAIL, None, 5),
-    ("401", "status 401", FAIL, "Access to the secured http site is denied!", 5),
-    ("404", "status 404, a page", FAIL, None, 5),
-    ("500", "status 500, no body", FAIL, "Server error().", 5),
-    ("500-page", "status 500, a page", PAGE, "Server error().", 5),
-    ("no-location", "redirect to nowhere", FAIL, "Redirection with no new location", 5),
-    ("loop", "redirect to itself", FAIL, None, 5),
-    ("to-https", "redirect to https", FAIL, "Error with redirected url", 5),
-    ("to-nobody", "redirect to a host that refuses", FAIL, CANNOT, 5),
-    ("to-good", "redirect to a good reply", TAKEN, None, 5),
-    ("garbage", "code 1005, binary body", PAGE, None, 5),
-    ("heavy", "code 1005, a body of 3 MB", PAGE, None, 5),
+    ("refused", "nobody listens", FAIL, CANNOT, None),
+    ("dns", "no such name", FAIL, LINE.format(12007), None),
+    ("reset", "breaks off", FAIL, RESET, lambda r: r.reset()),
+    ("closed", "closes without a word", FAIL, CUT, lambda r: None),
+    ("no-http", "no HTTP", FAIL, LINE.format(12152), lambda r: r.send(b"\x07" * 300)),
+    ("cut-headers", "ends within the headers", FAIL, CUT, lambda r: r.send(r.new[:50])),
+    ("cut-body", "ends within the body", FAIL, CUT, lambda r: r.send(r.half)),
+    ("reset-body", "breaks off within the body", FAIL, RESET, lambda r: r.reset(r.half)),
+    ("slow", "good, but byte by byte", TAKEN, None, lambda r: r.drip(r.new, 0.002)),
+    ("no-code", "200 without the headers of the protocol", FAIL, None, lambda r: r.send(plain("200 OK"))),
+    ("small-letters", "`servermsg` in small letters", FAIL, None,
+     lambda r: r.send(r.new.replace(b"ServerMSG", b"servermsg"))),
+    ("code-1001", "code 1001", FAIL, "Invalid request(1001).", lambda r: r.send(reply("", "1001"))),
+    ("code-1004", "code 1004", FAIL, "Server error(1004).", lambda r: r.send(reply("", "1004"))),
+    ("code-1006", "code 1006", FAIL, "Requested city not available(1006).", lambda r: r.send(reply("", "1006"))),
+    ("code-1007", "code 1007", FAIL, "There are no Updates available(1007).", lambda r: r.send(reply("", "1007"))),
+    ("code-9999", "a code that nobody knows, good body", FAIL, None, lambda r: r.send(reply(r.good[1], "9999"))),
+    ("empty", "code 1005, no body", FAIL, None, lambda r: r.send(reply(""))),
+    ("401", "status 401", FAIL, "Access to the secured http site is denied!", lambda r: r.send(plain("401 No"))),
+    ("404", "status 404, a page", FAIL, None, lambda r: r.send(plain("404 Not Found"))),
+    ("500", "status 500, no body", FAIL, "Server error().", lambda r: r.send(plain("500 Oh", ""))),
+    ("500-page", "status 500, a page", PAGE, "Server error().", lambda r: r.send(plain("500 Oh"))),
+    ("no-location", "redirect to nowhere", FAIL, "Redirection with no new location",
+     lambda r: r.send(plain("302 Found"))),
+    ("loop", "redirect to itself", FAIL, None, lambda r: r.move(f"{r.here}/loop")),
+    ("to-https", "redirect to https", FAIL, "Error with redirected url", lambda r: r.move("https://127.0.0.1/")),
+    ("to-nobody", "redirect to a host that refuses", FAIL, CANNOT, lambda r: r.move(ELSEWHERE["refused"])),
+    ("to-good", "redirect to a good reply", TAKEN, None, lambda r: r.move(f"{r.here}/newer")),
+    ("garbage", "code 1005, binary body", PAGE, None, lambda r: r.send(reply(bytes(range(256)) * 40))),
+    ("heavy", "code 1005, a body of 3 MB", PAGE, None, lambda r: r.send(reply(b"x" * 3_000_000))),
 ]
 SLOW = [
-    ("unanswered", "does not answer the connection", FAIL, LINE.format(12002), 20),
-    ("stall", "silent before the headers", FAIL, LINE.format(12002), 35),
-    ("stall-body", "silent within the body", FAIL, LINE.format(12002), 35),
-    ("drip-headers", "headers without end, a byte each half second", FAIL, LINE.format(12002), 305),
-    ("drip-body", "body without end, a byte each half second", FAIL, LINE.format(12002), 305),
+    ("unanswered", "does not answer the connection", FAIL, LATE, None),
+    ("stall", "silent before the headers", FAIL, LATE, lambda r: r.hold()),
+    ("stall-body", "silent within the body", FAIL, LATE, lambda r: (r.send(r.half), r.hold())),
+    ("drip-headers", "headers without end, a byte each half second", FAIL, LATE,
+     lambda r: r.drip(b"HTTP/1.1 200 OK\r\n" + b"X: y\r\n" * 10**4, 0.5)),
+    ("drip-body", "body without end, a byte each half second", FAIL, LATE,
+     lambda r: r.drip(reply(r.good[1], length=10**6) + b"x" * 10**4, 0.5)),
 ]
+LIMITS = {"dns": 20, "unanswered": 20, "stall": 35, "stall-body": 35, "drip-headers": 305, "drip-body": 305}  # seconds
+ACTIONS = {row[0]: row[4] for row in FAULTS + SLOW} | GOOD_REPLIES
+
+
+class Faulty:
+    """Answers each request as its path says."""
+
+    def __init__(self, port=0):
+        self.listener = socket.create_server(("127.0.0.1", port), backlog=64)
+        self.here = f"http://127.0.0.1:{self.listener.getsockname()[1]}"
+        threading.Thread(target=self.accept, daemon=True).start()
+
+    def accept(self):
+        while True:
+            threading.Thread(target=self.serve, args=self.listener.accept()[:1], daemon=True).start()
+
+    def serve(self, client):
+        with client, contextlib.suppress(OSError):
+            request = b""
+            while b"&wasize=" not in request:
+                block = client.recv(65536)
+                if not block:
+                    return
+                request += block
+            if b"&cnid=n2&" in request:  # as a server does that knows what the client has
+                client.sendall(reply("", "1007", news="n2"))
+                return
+            good = GOOD[request.split(b"jc=")[1][:3].decode()]
+            ACTIONS[request.split()[1].decode()[1:]](Request(client, self.here, good))
 
 
 def expected(kind, ending, first):
@@ -225,9 +209,7 @@ class Traveller:
 
     def ask(self, fault):
         """Whom, from now on."""
-        url = {"refused": f"http://127.0.0.1:{REFUSED}/", "dns": "http://nowhere.invalid/",
-               "unanswered": f"http://127.0.0.1:{FULL.getsockname()[1]}/"}.get(fault, f"{self.server.here}/{fault}")
-        (self.folder / "home/adrs.cfg").write_text(url + "*")
+        (self.folder / "home/adrs.cfg").write_text(ELSEWHERE.get(fault, f"{self.server.here}/{fault}") + "*")
 
     def update(self, kind):
         """Exit status, what was said, seconds."""
@@ -240,22 +222,7 @@ class Traveller:
         return rates, weather, (self.folder / "home/news.htm").read_bytes()
 
 
-def full_listener():
-    """A port whose queue of connections is full, so that none is answered."""
-    listener = socket.create_server(("127.0.0.1", 0), backlog=0)
-    for _ in range(3):
-        waiting = socket.socket()
-        waiting.setblocking(False)
-        waiting.connect_ex(listener.getsockname())
-        KEPT.append(waiting)
-    return listener
-
-
-KEPT = []
-FULL = full_listener()
-
-
-def try_fault(good, before, fault, ending, first, limit):
+def try_fault(good, before, fault, ending, first):
     """The longest time, and what was not as it should be."""
     traveller, wrong, longest = good.copy(fault), [], 0
     traveller.ask(fault)
@@ -264,7 +231,7 @@ def try_fault(good, before, fault, ending, first, limit):
     for kind, (status, said, seconds) in zip(COMMANDS, results):
         longest = max(longest, seconds)
         wanted = expected(kind, ending, first)
-        if (status, len(said)) != (wanted[0], len(wanted[1])) or seconds > limit or any(
+        if (status, len(said)) != (wanted[0], len(wanted[1])) or seconds > LIMITS.get(fault, 25) or any(
                 not message.startswith(want) for message, want in zip(said, wanted[1])):
             wrong.append(f"{fault}: {kind}: {status} {said} after {seconds:.1f} s")
     after = traveller.holds()
@@ -293,7 +260,7 @@ def main():
         good = Traveller(pathlib.Path(folder, "good"), server)
         before = good.holds()
         rows = FAULTS if arguments.quick else FAULTS + SLOW
-        tried = [(row, pool.submit(try_fault, good, before, row[0], *row[2:])) for row in rows]
+        tried = [(row, pool.submit(try_fault, good, before, row[0], *row[2:4])) for row in rows]
         for (_, name, ending, first, _), future in tried:
             longest, wrong = future.result()
             failures += wrong
