@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <vector>
 
 #include "uikit/look.h"
 
@@ -17,14 +18,23 @@ public:
     /// Name of the icon; empty for none. A mirrored one points the other way.
     void SetIcon(const QString& name, bool mirrored = false);
 
+    /// Writes the texts of a row all in the size in which the longest of them fits. The buttons must outlive each
+    /// other.
+    static void WriteAlike(const std::vector<CLinkButton*>& row);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QRectF TextRoom() const;
+    QFont TextFont() const;
+    double TextSize() const;
+
     const CLook& m_look;
     SkinKey m_colour;
     QString m_icon;
     bool m_mirrored = false;
+    std::vector<CLinkButton*> m_row;
 };
 
 }  // namespace rlx

@@ -56,6 +56,7 @@ void CWeatherScreen::MakePlaces() {
         connect(button, &QAbstractButton::clicked, this, [this, slot] { SelectPlace(slot); });
         m_placeButtons[slot] = button;
     }
+    CLinkButton::WriteAlike({m_placeButtons.begin(), m_placeButtons.end()});
     m_longTap.setSingleShot(true);
     m_longTap.setInterval(kLongTap);
     connect(&m_longTap, &QTimer::timeout, this, [this] {
