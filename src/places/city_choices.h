@@ -16,10 +16,9 @@ struct CityRename {
     friend bool operator==(const CityRename&, const CityRename&) = default;
 };
 
-/// The settings that hold a city: home, the four world clocks, the four weather places by their numbers, the reminders by
-/// their places. Takes note of their cities
-/// before the cities database changes and finds them again afterwards. Used once for each change, within the
-/// transaction that makes it. References must outlive it.
+/// The settings that hold a city: home, the four world clocks, the four weather places by their numbers, the reminders
+/// by their places. Takes note of their cities before the cities database changes and finds them again afterwards. Used
+/// once for each change, within the transaction that makes it. References must outlive it.
 class CCityChoices {
 public:
     CCityChoices(CCityDatabase& cities, CRegistryStore& settings) : m_cities(cities), m_settings(settings) {}
