@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -152,6 +153,8 @@ int main(int count, char** words) {
     // What is thrown here has no better place to be told: no memory, a file system that fails.
     try {
         rlx::cli::HoldStandardStreams();
+        // A write beyond the caller's limit of file sizes fails as on a full disk.
+        std::signal(SIGXFSZ, SIG_IGN);
         return rlx::cli::Run(count, words);
     } catch (const std::exception& error) {
         std::fprintf(stderr, "rlx: %s\n", error.what());

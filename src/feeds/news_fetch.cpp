@@ -1,11 +1,14 @@
 #include "feeds/news_fetch.h"
 
+#include <array>
+#include <span>
 #include <utility>
 
 #include "base/iso_day.h"
 #include "base/text.h"
 #include "feeds/http_url.h"
 #include "feeds/text_ids.h"
+#include "platform/registry_value.h"
 #include "shell/setting_names.h"
 #include "shell/text_ids.h"
 
@@ -32,31 +35,35 @@ NewsFetchResult CNewsFetch::Fetch(std::u16string_view url, std::u16string_view p
         settings.WriteDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewNews, 0);
         return result;
     }
-    if (!Save(reply.body)) {
+    if (!Keep(reply.body, url)) {
         forgetPage();
+        m_ports.boxes.Show({m_ports.texts.Text(kTextError), m_ports.texts.Text(kTextNewsNotSaved),
+                            BoxIcon::kExclamation, BoxButtons::kOk});
         return result;
     }
     result.saved = true;
     result.bytes = reply.body.size();
-    settings.WriteDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsRead, 0);
-    Remember(url);
     m_ports.boxes.Show({m_ports.texts.Text(kTextAppName), m_ports.texts.Text(kTextYouHaveNews), BoxIcon::kInformation,
                         BoxButtons::kOk});
     return result;
 }
 
-void CNewsFetch::Remember(std::u16string_view url) {
-    CRegistryStore settings(m_ports.registry);
+/// Day and source first: a page without them would pass for one of the former day.
+bool CNewsFetch::Keep(std::u16string_view page, std::u16string_view url) {
+    const auto exchange = [this](std::span<const RegistryAssignment> values) {
+        return m_ports.registry.Exchange(RegistryRoot::kLocalMachine, keys::kRoamlytix, {}, values);
+    };
     const std::optional<HttpUrl> address = ParseHttpUrl(url);
-    settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsDate, IsoDay(m_clock.Now().date));
-    settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewsSource,
-                         address ? Widen(address->host) : std::u16string());
-}
-
-bool CNewsFetch::Save(std::u16string_view page) {
+    const std::array values{
+        RegistryAssignment{names::kNewsRead, DwordValue(0)},
+        RegistryAssignment{names::kNewsDate, TextValue(IsoDay(m_clock.Now().date))},
+        RegistryAssignment{names::kNewsSource, TextValue(address ? Widen(address->host) : std::u16string())}};
+    auto former = values;
+    for (RegistryAssignment& value : former)
+        value.value = m_ports.registry.Query(RegistryRoot::kLocalMachine, keys::kRoamlytix, value.name);
+    if (!exchange(values)) return false;
     if (m_files.WriteFile(m_folder / kNewsFile, Narrow(page))) return true;
-    m_ports.boxes.Show({m_ports.texts.Text(kTextError), m_ports.texts.Text(kTextNewsNotSaved), BoxIcon::kExclamation,
-                        BoxButtons::kOk});
+    exchange(former);
     return false;
 }
 

@@ -32,8 +32,7 @@ public:
     NewsFetchResult Fetch(std::u16string_view url, std::u16string_view parameters, IHttpObserver* observer = nullptr);
 
 private:
-    bool Save(std::u16string_view page);
-    void Remember(std::u16string_view url);
+    bool Keep(std::u16string_view page, std::u16string_view url);
 
     FeedPorts m_ports;
     IFileSystem& m_files;

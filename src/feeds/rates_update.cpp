@@ -37,20 +37,20 @@ RatesUpdateResult CRatesUpdate::Update(CCurrencyDatabase& database, std::u16stri
         ShowError(kTextSyncFailed);
         return result;
     }
-    const std::optional<std::size_t> rates = Store(database, reply.body);
+    const std::optional<std::size_t> rates = Store(database, reply.body, url);
     if (!rates) {
         ShowError(kTextRatesNotSaved);
         return result;
     }
     result.stored = true;
     result.rates = *rates;
-    if (*rates > 0) Remember(database, url);
     const std::optional<Date> after = database.LastModifiedDate();
     if (after && after != before) result.label = RatesUpdateLabel(m_ports.texts, layout, *after);
     return result;
 }
 
-std::optional<std::size_t> CRatesUpdate::Store(CCurrencyDatabase& database, std::u16string_view reply) {
+std::optional<std::size_t> CRatesUpdate::Store(CCurrencyDatabase& database, std::u16string_view reply,
+                                               std::u16string_view url) {
     std::size_t written = 0;
     const bool stored = m_store.Transact([&] {
         for (const RateChange& change : ParseRatesReply(reply, m_list)) {
@@ -58,18 +58,20 @@ std::optional<std::size_t> CRatesUpdate::Store(CCurrencyDatabase& database, std:
             if (!database.WriteRate(change.name, change.code, change.rate)) return false;
             ++written;
         }
-        return true;
+        return written == 0 || Remember(database, url);
     });
     return stored ? std::optional(written) : std::nullopt;
 }
 
-void CRatesUpdate::Remember(CCurrencyDatabase& database, std::u16string_view url) {
+bool CRatesUpdate::Remember(CCurrencyDatabase& database, std::u16string_view url) {
     CRegistryStore settings(m_ports.registry);
+    const auto write = [&](std::u16string_view name, std::u16string_view text) {
+        return settings.WriteString(RegistryRoot::kLocalMachine, keys::kCurrencies, name, text);
+    };
     const std::optional<Date> date = database.LastModifiedDate();
-    if (date) settings.WriteString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesDate, IsoDay(*date));
     const std::optional<HttpUrl> address = ParseHttpUrl(url);
-    if (address)
-        settings.WriteString(RegistryRoot::kLocalMachine, keys::kCurrencies, names::kRatesSource, Widen(address->host));
+    return (!date || write(names::kRatesDate, IsoDay(*date))) &&
+           (!address || write(names::kRatesSource, Widen(address->host)));
 }
 
 void CRatesUpdate::ShowError(int text) {

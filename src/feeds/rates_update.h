@@ -29,7 +29,8 @@ struct RatesUpdateResult {
 std::u16string RatesUpdateLabel(const ITexts& texts, const RatesLayout& layout, const Date& date);
 
 /// The update command of the currency screen: posts the currency request and stores what comes. All rates of a reply
-/// are stored together or not at all; a failure leaves the last ones.
+/// are stored together with their day and source, or not at all; a failure leaves the last ones. For that the registry
+/// and the store must be of one device.
 class CRatesUpdate {
 public:
     CRatesUpdate(const FeedPorts& ports, IObjectStore& store, const CurrencyList& list);
@@ -38,11 +39,10 @@ public:
     RatesUpdateResult Update(CCurrencyDatabase& database, std::u16string_view url, std::u16string_view parameters,
                              const RatesLayout& layout, IHttpObserver* observer = nullptr);
 
-    /// Stores the rates of a reply; nothing when the device refuses.
-    std::optional<std::size_t> Store(CCurrencyDatabase& database, std::u16string_view reply);
-
 private:
-    void Remember(CCurrencyDatabase& database, std::u16string_view url);
+    /// How many rates were stored; nothing when the device refuses.
+    std::optional<std::size_t> Store(CCurrencyDatabase& database, std::u16string_view reply, std::u16string_view url);
+    bool Remember(CCurrencyDatabase& database, std::u16string_view url);
     void ShowError(int text);
 
     FeedPorts m_ports;

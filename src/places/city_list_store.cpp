@@ -25,7 +25,8 @@ CCityListStore::CCityListStore(IObjectStore& store, IRegistry& registry, IFileSy
       m_settings(registry),
       m_files(files),
       m_cities(cities),
-      m_cityFile(std::move(cityFile)) {}
+      m_cityFile(std::move(cityFile)),
+      m_former(m_cityFile.native() + ".old") {}
 
 CityListResult CCityListStore::Change(const Edit& edit) {
     CityListResult result = Finish();
@@ -38,12 +39,21 @@ CityListResult CCityListStore::Change(const Edit& edit) {
     if (!edit(list, renames)) return {CityListChange::kNothing, result.gone};
     const auto after = CityListBytes(list);
     if (!after) return {CityListChange::kNotWritable, result.gone};
-    if (Begin(renames) && m_files.WriteFile(m_cityFile, *after)) {
-        if (Rebuild(renames, result.gone)) return {CityListChange::kDone, result.gone};
-        m_files.WriteFile(m_cityFile, *before);
+    const bool done = m_files.CopyFile(m_cityFile, m_former) && Replace(*after, renames, result.gone);
+    m_files.RemoveFile(m_former);
+    return {done ? CityListChange::kDone : CityListChange::kNotSaved, result.gone};
+}
+
+/// Where the new file went through but the store refuses, the disk is full most likely: the former file is put back
+/// without a byte written. Without that the note stays, and who finds it makes the store fit the new file.
+bool CCityListStore::Replace(std::string_view after, const std::vector<CityRename>& renames,
+                             std::vector<std::u16string>& gone) {
+    if (Begin(renames) && m_files.WriteFile(m_cityFile, after)) {
+        if (Rebuild(renames, gone)) return true;
+        if (!m_files.MoveFile(m_former, m_cityFile)) return false;
     }
     RemoveNote();
-    return {CityListChange::kNotSaved, result.gone};
+    return false;
 }
 
 CityListResult CCityListStore::Finish() {
@@ -51,6 +61,7 @@ CityListResult CCityListStore::Finish() {
     if (!m_files.IsFile(m_cityFile)) return {CityListChange::kNotRead, {}};
     CityListResult result;
     if (!Rebuild(Renames(), result.gone)) return {CityListChange::kNotSaved, {}};
+    m_files.RemoveFile(m_former);
     return result;
 }
 

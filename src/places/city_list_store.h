@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "places/city_choices.h"
@@ -31,9 +32,9 @@ bool IsCityChangeUnfinished(CRegistryStore& settings);
 /// Changes "cities.lst" together with the database that is built from it and the settings that hold its cities.
 ///
 /// The file and the device store cannot be written in one step. So the store first takes note that the list changes and
-/// which cities are renamed; then the file is replaced; then the database, the choices and the note change in one
-/// transaction. Until that is done the choices fit the old database; who finds the note at the next start does the
-/// rest.
+/// which cities are renamed; then the file is replaced, the former one being kept beside it as "cities.lst.old"; then
+/// the database, the choices and the note change in one transaction. Until that is done the choices fit the old
+/// database; who finds the note at the next start does the rest.
 ///
 /// References must outlive the object, `registry` and `store` are those of one device: registry writes join a
 /// transaction of the store. Used from one thread.
@@ -52,6 +53,7 @@ public:
     CityListResult Finish();
 
 private:
+    bool Replace(std::string_view after, const std::vector<CityRename>& renames, std::vector<std::u16string>& gone);
     bool Begin(const std::vector<CityRename>& renames);
     bool Rebuild(const std::vector<CityRename>& renames, std::vector<std::u16string>& gone);
     std::vector<CityRename> Renames();
@@ -63,6 +65,7 @@ private:
     IFileSystem& m_files;
     CCityDatabase& m_cities;
     const std::filesystem::path m_cityFile;
+    const std::filesystem::path m_former;  ///< a copy of the file while it is being changed
 };
 
 }  // namespace rlx

@@ -3,11 +3,14 @@
 
     test_kill.py [--kills N] [--seed S]     with FAULT_CHANGER and RLX_BIN in the environment
 
-After each kill everything is opened anew: what was said to be kept is there, or the one change behind it, whole. Every
-fifth time rlx itself is killed over a new set of daylight-saving rules. All kills befall one folder, so faults add up.
+After each kill everything is opened anew: what was said to be kept is there, and of the change that was under way all or
+nothing. Every fifth time rlx itself is killed over a change. All kills befall one folder, so faults add up.
 """
 import argparse
 import collections
+import datetime
+import http.server
+import json
 import os
 import pathlib
 import random
@@ -15,42 +18,139 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 CHANGER, RLX = os.environ["FAULT_CHANGER"], os.environ["RLX_BIN"]
-LONGEST = 0.9  # s until the kill: start and several rounds
-LEFTOVER = ".rlx-"
+KINDS = ["settings", "packing", "skin", "cities", "languages", "rates", "units"]  # in the changer's order
 OLD = time.time() - 3600
 
 
-def run(folder, what):
-    done = subprocess.run([CHANGER, folder, what], capture_output=True, text=True)
-    if done.returncode != 0:
-        sys.exit(f"{what}: {done.stdout[-300:]}{done.stderr[-2000:]}")
-    return numbers(done.stdout)
+class Rates(http.server.BaseHTTPRequestHandler):
+    page = b""
+
+    def do_POST(self):
+        self.rfile.read(int(self.headers["Content-Length"]))
+        self.send_response_only(200)
+        for name, value in (("sessionId", "s1."), ("ServerMSG", "1005"), ("Content-Type", "text/plain"), ("newsid", "7"),
+                            ("Content-Length", len(self.page))):
+            self.send_header(name, str(value))
+        self.end_headers()
+        self.wfile.write(self.page)
+
+    def log_message(self, *_):
+        pass
+
+
+class Trial:
+    def __init__(self, seed):
+        self.chance, self.folder = random.Random(seed), pathlib.Path(tempfile.mkdtemp())
+        for name in ("cities.lst", "cities.date", "cities.wet", "currs.lst", "default.skn"):
+            shutil.copy(ROOT / "data" / name, self.folder)
+        shutil.copy(pathlib.Path(RLX).parent / "LangsRes/RoamlyFrench.dll", self.folder / "Module.dll")
+        entries = (self.folder / "currs.lst").read_text("latin-1").split("\n", 1)[1].split("#")
+        self.codes = [entry.split("_")[0] for entry in entries[:40]]
+        server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Rates)
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+        (self.folder / "adrs.cfg").write_text(f"http://127.0.0.1:{server.server_port}/feed*")
+        self.changer("once")  # makes the databases
+        began = time.monotonic()
+        self.kept = self.changer("once")
+        # The kill comes within the start and two rounds, of rlx within the time of the last one that was not killed.
+        self.span = collections.defaultdict(lambda: 0.1, {"": 1.5 * (time.monotonic() - began)})
+        self.outcome = collections.defaultdict(collections.Counter)
+
+    def changer(self, what):
+        done = subprocess.run([CHANGER, self.folder, what], capture_output=True, text=True)
+        if done.returncode != 0:
+            self.fail(f"{what}: {done.stdout[-300:]}{done.stderr[-2000:]}")
+        return numbers(done.stdout)
+
+    def rlx_words(self, *words):
+        return [RLX, "--home", self.folder, "--store", self.folder / "device.db", "--yes", *words]
+
+    def ask(self, *words):
+        done = subprocess.run(self.rlx_words("--json", *words), capture_output=True, text=True)
+        if done.returncode != 0 or json.loads(done.stdout)["messages"]:
+            self.fail(f"{words}: {done}")
+        return json.loads(done.stdout)
+
+    def fail(self, text):
+        sys.exit(f"{text}\nfolder {self.folder}")
+
+    def kill(self, command, span):
+        """What it said, and whether it was killed before it ended."""
+        began = time.monotonic()
+        process = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+        try:
+            out, error = process.communicate(timeout=self.chance.uniform(0, self.span[span]))
+            self.span[span] = time.monotonic() - began
+        except subprocess.TimeoutExpired:
+            process.kill()
+            out, error = process.communicate()
+        if process.returncode not in (0, -9):
+            self.fail(f"{command}: {process.returncode} {out[-300:]}{error[-2000:]}")
+        return out, process.returncode == -9
+
+    def check(self, row, under_way):
+        found = self.changer("check")
+        for kind, number in found.items():
+            if number != self.kept[kind] and (kind != under_way or number != self.kept[kind] + 1):
+                self.fail(f"{row}: {kind} {self.kept[kind]} was said to be kept, {number} is there")
+        if row:
+            self.outcome[row]["as after it" if found[under_way] != self.kept[under_way] else "as before it"] += 1
+        self.kept = found
+
+    def kill_changer(self):
+        out, _ = self.kill([CHANGER, self.folder, "change"], "")
+        said = numbers(out)
+        self.kept.update(said)
+        last = out.split("\n")[-2].split()[0] if said else KINDS[-1]
+        under_way = KINDS[(KINDS.index(last) + 1) % len(KINDS)]
+        self.check(under_way if said else "the start", under_way)
+
+    def kill_rlx(self):
+        """A change that has a number of the changer, or one beside those."""
+        turn = str(self.chance.randrange(1 << 20))
+        language, rates = self.kept["languages"] + 1, self.kept["rates"] + 1
+        card, packed = self.folder / "card", str(self.kept["packing"])
+        card.mkdir(exist_ok=True)
+        shutil.copy(self.folder / "Module.dll", card / f"Roamly{language}.dll")
+        Rates.page = "".join(f"{code}_{rates}#" for code in self.codes).encode()
+        day = datetime.date(2000, 1, 1) + datetime.timedelta(rates)
+        date = self.folder / "cities.date"
+        year = str(2026 + (int(date.read_text()[:4]) + 1) % 10)
+        setting = ["Roamlytix\\other", "name"]
+        rows = [("settings", ["settings", "set", *setting, "--text", turn], lambda: self.ask("settings", "get", *setting), turn),
+                ("packing", ["pack", "tick", packed, "All Items", packed], lambda: self.ask("pack", "show"), '"ticked": true'),
+                ("units", ["units", "add", "5", f"unit {turn}", "2"], lambda: self.ask("units", "list", "5"), turn),
+                ("cities", ["city", "refresh", "--year", year], date.read_text, year),
+                ("languages", ["lang", "install", card, f"Roamly{language}.dll"], None, None),
+                ("rates", ["rates", "update", "--now", f"{day}T12:00:00"], None, None)]
+        kind, words, state, answer = self.chance.choice(rows)
+        row = f"rlx {words[0]} {words[1]}"
+        before = state and state()
+        _, killed = self.kill(self.rlx_words(*words), row)
+        if state:
+            after = state()
+            done = after != before
+            if (done and answer not in json.dumps(after)) or (not done and not killed):
+                self.fail(f"{words}: {before} became {after}")
+            self.outcome[row]["as after it" if done else "as before it"] += killed
+            self.check(None, None)
+        else:
+            self.kept[kind] += not killed
+            self.check(row if killed else None, kind)
+        self.outcome[row]["was quicker"] += not killed
+
+    def leftovers(self):
+        return [file for file in self.folder.rglob(".rlx-*")]
 
 
 def numbers(text):
     """The last number of each kind; a line without its end was not said."""
-    lines = [line.split() for line in text.split("\n")[:-1]]
-    return {kind: int(number) for kind, number in lines}
-
-
-def kill(command, delay):
-    process = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
-    try:
-        out, error = process.communicate(timeout=delay)
-    except subprocess.TimeoutExpired:
-        process.kill()
-        out, error = process.communicate()
-    if process.returncode not in (0, -9):
-        sys.exit(f"{command}: {process.returncode} {out[-300:]}{error[-2000:]}")
-    return out, process.returncode == -9
-
-
-def leftovers(folder):
-    return [file for file in pathlib.Path(folder).rglob("*") if file.name.startswith(LEFTOVER)]
+    return {kind: int(number) for kind, number in (line.split() for line in text.split("\n")[:-1])}
 
 
 def main():
@@ -59,43 +159,22 @@ def main():
     parser.add_argument("--seed", type=int, default=random.randrange(1 << 30))
     options = parser.parse_args()
     print(f"seed {options.seed}")
-    chance = random.Random(options.seed)
-    folder = tempfile.mkdtemp()
-    for name in ("cities.lst", "cities.date", "cities.wet", "currs.lst", "default.skn"):
-        shutil.copy(ROOT / "data" / name, folder)
-    shutil.copy(pathlib.Path(RLX).parent / "LangsRes/RoamlyFrench.dll", os.path.join(folder, "Module.dll"))
-
-    kept = run(folder, "once")
-    hit = collections.Counter()
-    most_left = 0
+    trial, most_left = Trial(options.seed), 0
     for turn in range(options.kills):
-        delay = chance.uniform(0.02, LONGEST)
-        if turn % 5 == 4:
-            year = chance.randrange(2026, 2036)
-            place = ["--home", folder, "--store", folder + "/device.db"]
-            _, killed = kill([RLX, *place, "city", "refresh", "--year", str(year)], delay / 4)
-            hit["rlx" if killed else "rlx, too late"] += 1
-        else:
-            out, _ = kill([CHANGER, folder, "change"], delay)
-            kept.update(numbers(out))
-            lines = out.split("\n")[:-1]
-            hit["after " + lines[-1].split()[0] if lines else "at the start"] += 1
-        found = run(folder, "check")
-        for kind, number in found.items():
-            if number not in (kept[kind], kept[kind] + 1):
-                sys.exit(f"turn {turn}: {kind} {kept[kind]} was said to be kept, {number} is there; folder {folder}")
-        kept = found
-        most_left = max(most_left, len(leftovers(folder)))
-
+        trial.kill_rlx() if turn % 5 == 4 else trial.kill_changer()
+        most_left = max(most_left, len(trial.leftovers()))
     # What a killed program left beside its files goes when the next one saves there, once it is no longer new.
-    for file in leftovers(folder):
+    for file in trial.leftovers():
         os.utime(file, (OLD, OLD))
-    run(folder, "once")
-    if leftovers(folder):
-        sys.exit(f"left for ever: {leftovers(folder)}")
-    print(f"{options.kills} kills, nothing lost; changes kept: {kept}")
-    print(f"killed: {dict(sorted(hit.items()))}; most files left behind at a time: {most_left}")
-    shutil.rmtree(folder)
+    trial.changer("once")
+    if trial.leftovers():
+        trial.fail(f"left for ever: {trial.leftovers()}")
+    print("| killed over | times | found as before it | found as after it | ended before the kill |\n|---|--:|--:|--:|--:|")
+    for row, counts in sorted(trial.outcome.items(), key=lambda item: (item[0].startswith("rlx"), item[0])):
+        before, after = counts["as before it"], counts["as after it"]
+        print(f"| {row} | {before + after} | {before} | {after} | {counts['was quicker']} |")
+    print(f"{options.kills} turns, nothing lost; changes kept: {trial.kept}; most files left behind at a time: {most_left}")
+    shutil.rmtree(trial.folder)
 
 
 main()

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 
@@ -127,6 +128,8 @@ int Remind(int count, char** words) {
 }  // namespace
 
 int main(int count, char** words) {
+    // A write beyond the caller's limit of file sizes fails as on a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
     if (HasWord(count, words, "--remind")) return Remind(count, words);
     if (HasWord(count, words, "--screenshots") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");

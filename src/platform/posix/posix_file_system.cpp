@@ -112,7 +112,10 @@ bool CPosixFileSystem::CopyFile(const fs::path& from, const fs::path& to) {
 
 bool CPosixFileSystem::MoveFile(const fs::path& from, const fs::path& to) {
     if (!IsFile(from) || IsFolder(to)) return false;
-    if (::rename(from.c_str(), to.c_str()) == 0) return true;
+    if (::rename(from.c_str(), to.c_str()) == 0) {
+        SyncFolder(to.has_parent_path() ? to.parent_path() : ".");
+        return true;
+    }
     return errno == EXDEV && CopyFile(from, to) && RemoveFile(from);
 }
 

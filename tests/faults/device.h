@@ -1,87 +1,113 @@
-// Changes everything that a person's device keeps, over and over, through the code that the programs use, until
-// somebody kills it:
-//   fault_changer FOLDER change         a line "KIND NUMBER" once a change has been said to be kept
-//   fault_changer FOLDER once           one round of changes
-//   fault_changer FOLDER check          opens all of it anew; a line "KIND NUMBER" for what is there, status 1 for a
-//   fault
-// FOLDER holds the data files and "Module.dll", and gets "device.db". Each change carries a number, the next one of its
-// kind, in several places that belong together.
-#include <unistd.h>
+#pragma once
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <map>
+#include <memory>
+#include <stdexcept>
 #include <string>
+#include <utility>
 
+#include "base/iso_day.h"
 #include "base/number.h"
 #include "base/text.h"
+#include "feeds/rates_origin.h"
 #include "feeds/rates_update.h"
+#include "feeds/standard_networks.h"
 #include "places/city_list_store.h"
-#include "platform/fake/scripted_message_boxes.h"
-#include "platform/offline_connection_manager.h"
-#include "platform/posix/posix_file_system.h"
-#include "platform/posix/system_clock.h"
+#include "platform/fake/fake_connection_manager.h"
+#include "platform/fake/fixed_clock.h"
 #include "platform/registry_value.h"
-#include "platform/sqlite/device_store.h"
 #include "shell/application_folder.h"
 #include "shell/language_install.h"
 #include "shell/language_list.h"
 #include "shell/resources.h"
 #include "shell/setting_names.h"
 #include "skins/skin_draft.h"
+#include "support/recorded_boxes.h"
 #include "tools/converter/unit_database.h"
 #include "tools/packing/packing_file.h"
 #include "tools/packing/packing_store.h"
 
-namespace rlx {
-namespace {
-
-namespace fs = std::filesystem;
-using Numbers = std::map<std::string, std::uint32_t>;
+namespace rlx::test {
 
 constexpr std::u16string_view kKey = u"Roamlytix\\faults";
 constexpr std::u16string_view kFront = u"0 in front";
 constexpr std::size_t kUnits = 6;  // a category that units can be added to
+constexpr std::size_t kRates = 40;
 
-void Must(bool truth, const char* what) {
-    if (truth) return;
-    std::printf("fault: %s\n", what);
-    std::exit(1);
+inline void Must(bool truth, const char* what) {
+    if (!truth) throw std::runtime_error(what);
 }
 
-std::u16string Text(std::uint32_t number) {
+inline std::u16string Text(std::uint32_t number) {
     return FormatInteger(number);
 }
 
-std::uint32_t NumberIn(std::u16string_view text) {
+inline std::uint32_t NumberIn(std::u16string_view text) {
     const auto number = ParseWholeInteger(text, 0, 1 << 30);
     Must(number.has_value(), "a text that is no number");
     return static_cast<std::uint32_t>(*number);
 }
 
-class CNoSession : public IHttpSession {
+/// The day of the rates of that number.
+inline Date DayOf(std::uint32_t number) {
+    return AddDays({2000, 1, 1}, number);
+}
+
+/// A server that answers with one page.
+class CPageSession : public IHttpSession {
 public:
-    HttpAnswer Post(const HttpPost& /*post*/, IHttpObserver* /*observer*/) override { return {}; }
+    std::string page;
+
+    HttpAnswer Post(const HttpPost& /*post*/, IHttpObserver* /*observer*/) override {
+        return {std::make_unique<CReply>(page), kHttpNoFailure};
+    }
+
+private:
+    class CReply : public IHttpReply {
+    public:
+        explicit CReply(std::string page) : m_page(std::move(page)) {}
+        int Status() const override { return 200; }
+        const std::string& RawHeaders() const override { return m_headers; }
+        std::optional<std::size_t> Read(char* buffer, std::size_t size) override {
+            const std::size_t count = m_page.copy(buffer, size);
+            m_page.erase(0, count);
+            return count;
+        }
+        HttpFailure Failure() const override { return kHttpNoFailure; }
+
+    private:
+        const std::string m_headers =
+            "HTTP/1.1 200 OK\r\nsessionId: s1.\r\nServerMSG: 1005\r\nContent-Type: text/plain\r\nnewsid: 7\r\n\r\n";
+        std::string m_page;
+    };
 };
 
-/// All that is kept, opened anew. Each `Change...` puts a number in the place of the former one, each `Read...` finds
-/// it.
+struct DevicePorts {
+    IFileSystem& files;
+    IRegistry& registry;
+    IObjectStore& objects;
+    CFixedClock& clock;  ///< of the store
+    std::filesystem::path root;
+};
+
+/// All that a person's device keeps, opened anew, and the changes of it through the code that the programs use. Each
+/// change carries a number, the next one of its kind, in several places that belong together; each `Read...` finds it
+/// there, and throws when the places disagree or something else is broken. `root` holds the data files and
+/// "Module.dll".
 class CDevice {
 public:
-    explicit CDevice(const fs::path& root) : m_root(root), m_opened(OpenDeviceStore(root / "device.db", m_clock)) {
-        Must(m_opened.outcome == StoreOutcome::kOpened || m_opened.outcome == StoreOutcome::kCreated, "the store");
+    explicit CDevice(const DevicePorts& ports) : m_ports(ports), m_root(ports.root), m_files(ports.files) {
+        m_connections.networks = {{kNetworkInternet, u"net", {true}}};
+        m_connections.probe = kNetworkInternet;
         Must(m_lists.Finish().state != CityListChange::kNotSaved, "an unfinished change of the cities");
         m_cities.EnsureCreated();
         m_rates = LoadRatesList(m_files, m_root);
         Must(m_currencies.EnsureCreated(m_rates) && m_units.Open(), "the databases");
     }
 
-    bool IsSound() { return m_opened.store->IsSound(); }
-
     /// Two values in one step.
     bool ChangeSettings(std::uint32_t number) {
-        return m_opened.store->Registry().Exchange(
+        return m_ports.registry.Exchange(
             RootOf(kKey), kKey, {},
             std::vector<RegistryAssignment>{{u"one", TextValue(Text(number))}, {u"two", TextValue(Text(number))}});
     }
@@ -156,7 +182,8 @@ public:
         if (!m_settings.ReadString(RootOf(keys::kAlarms), keys::kAlarms, names::kAlarmCities[0]).empty()) return;
         ChangeSkin(0);
         ChangeRates(0);
-        m_settings.WriteDword(RootOf(keys::kWorldClock), keys::kWorldClock, names::kHomeClock, 700);
+        m_settings.WriteDword(RootOf(keys::kWorldClock), keys::kWorldClock, names::kHomeClock,
+                              static_cast<std::uint32_t>(m_cities.Count() / 2));
         ChangeCities(1);
         m_settings.WriteString(RootOf(keys::kAlarms), keys::kAlarms, names::kAlarmCities[0], HomePlace());
     }
@@ -179,9 +206,11 @@ public:
             for (std::uint32_t old = std::max(number, 60U) - 60; old + 21 < number; ++old)
                 m_files.RemoveFile(m_root / "LangsRes" / ToUtf8(u"Roamly" + Text(old) + u".dll"));
         }
-        const fs::path card = m_root / "card";
-        return m_files.CreateFolder(card) && m_files.CopyFile(m_root / "Module.dll", card / ToUtf8(module)) &&
-               InstallLanguage(m_files, m_folder, m_texts, {card, module, true, {}}) == InstallOutcome::kInstalled;
+        const std::filesystem::path card = m_root / "card";
+        if (!m_files.CreateFolder(card) || !m_files.CopyFile(m_root / "Module.dll", card / ToUtf8(module)))
+            return false;
+        const InstallOutcome outcome = InstallLanguage(m_files, m_folder, m_texts, {card, module, true, {}});
+        return outcome == InstallOutcome::kInstalled || outcome == InstallOutcome::kNotRemoved;
     }
     std::uint32_t ReadLanguages() {
         std::uint32_t last = 0;
@@ -194,23 +223,30 @@ public:
         return last;
     }
 
-    /// All rates of one reply.
+    /// All rates of one reply, and the day on which they came.
     bool ChangeRates(std::uint32_t number) {
         std::u16string reply;
-        for (std::size_t i = 0; i < 40; ++i)
+        for (std::size_t i = 0; i < kRates; ++i)
             reply += m_rates[i].code + u"_" + Text(number) + u"#";
-        return CRatesUpdate(m_ports, m_opened.store->Objects(), m_rates).Store(m_currencies, reply) == 40U;
+        m_http.page = Narrow(reply);
+        m_ports.clock.Set({DayOf(number), 12});
+        const FeedPorts feed{m_http, m_connections, m_ports.registry, m_boxes, m_texts};
+        CRatesUpdate update(feed, m_ports.objects, m_rates);
+        return update.Update(m_currencies, u"http://127.0.0.1/feed", u"did=a", {}).stored;
     }
     std::uint32_t ReadRates() {
+        const CurrencyList all = m_currencies.All();
+        Must(all.size() == m_rates.size() && all.size() >= kRates, "currencies are missing");
         std::u16string first;
-        for (const CurrencyEntry& entry : m_currencies.All()) {
-            const bool changed = std::any_of(m_rates.begin(), m_rates.begin() + 40,
+        for (const CurrencyEntry& entry : all) {
+            const bool changed = std::any_of(m_rates.begin(), m_rates.begin() + kRates,
                                              [&](const CurrencyEntry& each) { return each.code == entry.code; });
             if (changed && first.empty()) first = entry.rate;
             Must(!changed || entry.rate == first, "rates of one reply differ");
         }
-        Must(m_currencies.All().size() == m_rates.size(), "currencies are missing");
-        return first.find(u'.') == std::u16string::npos ? NumberIn(first) : 0;
+        const RatesOrigin origin = OriginOfRates(m_ports.registry, std::nullopt);
+        Must(origin.date == DayOf(NumberIn(first)), "the rates are of another day than is told");
+        return NumberIn(first);
     }
 
     bool ChangeUnits(std::uint32_t number) {
@@ -234,23 +270,20 @@ public:
     }
 
 private:
-    const fs::path m_root;
-    CSystemClock m_clock;
-    CPosixFileSystem m_files;
+    const DevicePorts m_ports;
+    const std::filesystem::path m_root;
+    IFileSystem& m_files;
     const CResources m_texts;
-    CScriptedMessageBoxes m_boxes;
-    CNoSession m_http;
-    COfflineConnectionManager m_connections;
-    OpenedStore m_opened;
-    CRegistryStore m_settings{m_opened.store->Registry()};
-    FeedPorts m_ports{m_http, m_connections, m_opened.store->Registry(), m_boxes, m_texts};
+    CRecordedBoxes m_boxes;
+    CPageSession m_http;
+    CFakeConnectionManager m_connections;
+    CRegistryStore m_settings{m_ports.registry};
     CApplicationFolder m_folder{m_files, m_root};
-    CCityDatabase m_cities{m_opened.store->Objects(), m_files, m_boxes, m_texts, m_root / "cities.lst"};
-    CCityListStore m_lists{m_opened.store->Objects(), m_opened.store->Registry(), m_files, m_cities,
-                           m_root / "cities.lst"};
+    CCityDatabase m_cities{m_ports.objects, m_files, m_boxes, m_texts, m_root / "cities.lst"};
+    CCityListStore m_lists{m_ports.objects, m_ports.registry, m_files, m_cities, m_root / "cities.lst"};
     CurrencyList m_rates;
-    CCurrencyDatabase m_currencies{m_opened.store->Objects()};
-    CUnitDatabase m_units{m_opened.store->Objects()};
+    CCurrencyDatabase m_currencies{m_ports.objects};
+    CUnitDatabase m_units{m_ports.objects};
 };
 
 struct Kind {
@@ -259,7 +292,7 @@ struct Kind {
     std::uint32_t (CDevice::*read)();
 };
 
-constexpr Kind kKinds[] = {
+inline constexpr Kind kKinds[] = {
     {"settings", &CDevice::ChangeSettings, &CDevice::ReadSettings},
     {"packing", &CDevice::ChangePacking, &CDevice::ReadPacking},
     {"skin", &CDevice::ChangeSkin, &CDevice::ReadSkin},
@@ -269,34 +302,4 @@ constexpr Kind kKinds[] = {
     {"units", &CDevice::ChangeUnits, &CDevice::ReadUnits},
 };
 
-void Say(const char* kind, std::uint32_t number) {
-    const std::string line = std::string(kind) + " " + std::to_string(number) + "\n";
-    Must(::write(STDOUT_FILENO, line.data(), line.size()) == static_cast<ssize_t>(line.size()), "standard output");
-}
-
-int Run(const fs::path& root, const std::string& what) {
-    CDevice device(root);
-    if (what == "check") Must(device.IsSound(), "the store is damaged");
-    device.Prepare();
-    Numbers numbers;
-    for (const Kind& kind : kKinds) {
-        numbers[kind.name] = (device.*kind.read)();
-        if (what == "check") Say(kind.name, numbers[kind.name]);
-    }
-    if (what == "check") return 0;
-    do {
-        for (const Kind& kind : kKinds) {
-            const std::uint32_t next = ++numbers[kind.name];
-            Must((device.*kind.change)(next), kind.name);
-            Say(kind.name, next);
-        }
-    } while (what == "change");
-    return 0;
-}
-
-}  // namespace
-}  // namespace rlx
-
-int main(int count, char** words) {
-    return count < 3 ? 2 : rlx::Run(words[1], words[2]);
-}
+}  // namespace rlx::test
