@@ -4,7 +4,8 @@
     test_kill.py [--kills N] [--seed S]     with FAULT_CHANGER and RLX_BIN in the environment
 
 After each kill everything is opened anew: what was said to be kept is there, and of the change that was under way all or
-nothing. Every fifth time rlx itself is killed over a change. All kills befall one folder, so faults add up.
+nothing. Every fifth time rlx itself is killed over a change, now and then over a first start. All other kills befall one
+folder, so faults add up.
 """
 import argparse
 import collections
@@ -144,8 +145,20 @@ class Trial:
             self.check(row if killed else None, kind)
         self.outcome[row]["was quicker"] += not killed
 
+    def kill_first_start(self):
+        """While it makes the store; the next start has all cities and nothing to complain of."""
+        store = self.folder / "fresh" / "device.db"
+        words = ["--store", store, "city", "list"]
+        _, killed = self.kill(self.rlx_words(*words), "first start")
+        made = "as after it" if store.exists() else "as before it"
+        self.outcome["rlx, a first start"][made if killed else "was quicker"] += 1
+        cities = (self.folder / "cities.lst").read_bytes().split(b"\n", 1)[0]
+        if len(self.ask(*words)["cities"]) != int(cities):
+            self.fail("cities are missing after a first start")
+        shutil.rmtree(store.parent)
+
     def leftovers(self):
-        return [file for file in self.folder.rglob(".rlx-*")]
+        return [*self.folder.rglob(".rlx-*"), *self.folder.rglob("*.old")]
 
 
 def numbers(text):
@@ -161,7 +174,7 @@ def main():
     print(f"seed {options.seed}")
     trial, most_left = Trial(options.seed), 0
     for turn in range(options.kills):
-        trial.kill_rlx() if turn % 5 == 4 else trial.kill_changer()
+        (trial.kill_first_start if turn % 20 == 7 else trial.kill_rlx if turn % 5 == 4 else trial.kill_changer)()
         most_left = max(most_left, len(trial.leftovers()))
     # What a killed program left beside its files goes when the next one saves there, once it is no longer new.
     for file in trial.leftovers():
