@@ -51,12 +51,12 @@ CApplication::CApplication(const WindowOptions& options)
     m_cityCommands->SetWindow(*m_window);
     m_skins = std::make_unique<CSkinCommands>(SkinPorts{m_files, m_codec, m_resources, m_boxes}, m_folder->Root(),
                                               *m_settings, m_look, *m_window);
-    MakeScreens();
-    MakeReminders();
-    MakeCommands();
     connect(&m_look, &CLook::Changed, this, &CApplication::ApplyLook);
     m_skins->Load();
+    AddScreens();
     RestoreScreen();
+    MakeReminders();
+    MakeCommands();
 }
 
 CApplication::~CApplication() = default;
@@ -102,19 +102,22 @@ void CApplication::OpenCities() {
                            m_folder->Root(), cityFile);
 }
 
-void CApplication::MakeScreens() {
-    const CityChooser choose = [this](QWidget* parent, const QString& title, CityIndex current) {
-        return ChooseCity(parent, title, current);
-    };
-    m_clocksScreen = new CClocksScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, choose);
-    m_window->AddScreen(m_clocksScreen);
-    connect(m_clocksScreen, &CClocksScreen::CitiesChanged, m_window.get(), &CMainWindow::RefreshScreens);
-    MakeMap();
+CityChooser CApplication::Chooser() {
+    return
+        [this](QWidget* parent, const QString& title, CityIndex current) { return ChooseCity(parent, title, current); };
+}
+
+void CApplication::AddScreens() {
     m_feeds.emplace(CFeedWiring::Ports{m_files, m_store->Objects(), m_store->Registry(), m_boxes, m_clock, m_resources,
                                        *m_folder, m_look, *m_window});
-    MakeWeather();
+    m_window->AddScreen(
+        {kTextScreenClocks, QStringLiteral("clocks"), LookPicture::kClocks, [this] { return MakeClocks(); }});
+    m_window->AddScreen({kTextScreenMap, QStringLiteral("map"), LookPicture::kMap, [this] { return MakeMap(); }});
+    m_weatherIndex = m_window->AddScreen(
+        {kTextScreenWeather, QStringLiteral("weather"), LookPicture::kWeather, [this] { return MakeWeather(); }});
     m_feeds->AddCurrencyScreen();
-    MakeTools();
+    m_window->AddScreen(
+        {kTextScreenTools, QStringLiteral("tools"), LookPicture::kCommon, [this] { return MakeTools(); }});
     m_feeds->AddNewsScreen();
     connect(m_window.get(), &CMainWindow::ScreenShown, this, [this](int index) {
         // News is a guest: at the next start the window opens on the screen of the row that was shown before it.
@@ -124,11 +127,17 @@ void CApplication::MakeScreens() {
     });
 }
 
-void CApplication::MakeMap() {
+CScreen* CApplication::MakeClocks() {
+    m_clocksScreen = new CClocksScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, Chooser());
+    connect(m_clocksScreen, &CClocksScreen::CitiesChanged, m_window.get(), &CMainWindow::RefreshScreens);
+    m_clocksScreen->SetShowSunDetails([this](const CitySunDetails& details) { OpenSunDetails(details); });
+    return m_clocksScreen;
+}
+
+CScreen* CApplication::MakeMap() {
     auto* map = new CMapScreen(*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look);
     map->SetShowInformation([this](CityIndex city) { ShowCityInformation(city); });
-    m_window->AddScreen(map);
-    m_clocksScreen->SetShowSunDetails([this](const CitySunDetails& details) { OpenSunDetails(details); });
+    return map;
 }
 
 void CApplication::ShowCityInformation(CityIndex city) {
@@ -147,35 +156,36 @@ void CApplication::OpenSunDetails(const CitySunDetails& details) {
     ShowSunDetails(details, date, twelve ? ClockForm::kTwelve : ClockForm::kTwentyFour, m_resources, m_window.get());
 }
 
-void CApplication::MakeTools() {
-    m_toolsScreen = new CToolsScreen(*m_settings, m_resources, m_look);
-    m_toolsScreen->AddPage(new CConverterTool(m_store->Objects(), *m_settings, m_resources, m_boxes, m_look));
-    m_toolsScreen->AddPage(new CDialingTool(m_resources, m_look));
-    m_toolsScreen->AddPage(new CClothingTool(m_resources, m_look));
-    m_toolsScreen->AddPage(new CPackingPage(m_files, m_folder->Root(), m_resources, m_boxes, m_look));
-    m_toolsScreen->AddPage(new CTipPage(m_resources, m_boxes, m_look));
-    m_window->AddScreen(m_toolsScreen);
+CScreen* CApplication::MakeTools() {
+    auto* tools = new CToolsScreen(*m_settings, m_resources, m_look);
+    tools->AddPage(new CConverterTool(m_store->Objects(), *m_settings, m_resources, m_boxes, m_look));
+    tools->AddPage(new CDialingTool(m_resources, m_look));
+    tools->AddPage(new CClothingTool(m_resources, m_look));
+    tools->AddPage(new CPackingPage(m_files, m_folder->Root(), m_resources, m_boxes, m_look));
+    tools->AddPage(new CTipPage(m_resources, m_boxes, m_look));
+    return tools;
 }
 
-void CApplication::MakeWeather() {
+CScreen* CApplication::MakeWeather() {
     const auto list = m_folder->Path(u"\\cities.wet").value_or(m_folder->Root() / "cities.wet");
     m_weather.emplace(m_store->Objects(), m_files, list);
-    const CityChooser choose = [this](QWidget* parent, const QString& title, CityIndex current) {
-        return ChooseCity(parent, title, current);
-    };
     const WithForecastServer withServer = [this](const auto& update) { m_feeds->WithForecasts(update); };
     m_weatherScreen = new CWeatherScreen({*m_cities, m_clock, *m_settings, m_resources, m_boxes, m_look, m_files,
-                                          *m_weather, m_folder->Root(), choose, withServer});
-    m_window->AddScreen(m_weatherScreen);
+                                          *m_weather, m_folder->Root(), Chooser(), withServer});
+    return m_weatherScreen;
+}
+
+void CApplication::UpdateWeather() {
+    m_window->Screen(m_weatherIndex);
+    m_weatherScreen->Update();
 }
 
 void CApplication::MakeReminders() {
-    const CityChooser choose = [this](QWidget* parent, const QString& title, CityIndex current) {
-        return ChooseCity(parent, title, current);
-    };
+    // They speak through the clocks, whichever screen is shown.
+    if (m_clocksScreen == nullptr) m_window->Screen(0);
     m_reminderDuty.emplace(CReminderDuty::Ports{m_files, m_store->Registry(), *m_cities, m_clock, m_resources},
                            CReminderDuty::Run{m_options.store, m_options.home, m_options.now || m_options.bias});
-    m_reminders.emplace(ReminderPorts{m_store->Registry(), *m_cities, m_clock, m_resources, m_boxes, choose},
+    m_reminders.emplace(ReminderPorts{m_store->Registry(), *m_cities, m_clock, m_resources, m_boxes, Chooser()},
                         *m_reminderDuty, *m_clocksScreen, *m_window);
 }
 
@@ -190,7 +200,7 @@ void CApplication::MakeCommands() {
         ->setCheckable(true);
     m_commands.Add(kCommandShowCities, this, [this] { ToggleSetting(keys::kMap, names::kShowCities, 1); })
         ->setCheckable(true);
-    m_commands.Add(kCommandUpdateWeather, this, [this] { m_weatherScreen->Update(); });
+    m_commands.Add(kCommandUpdateWeather, this, [this] { UpdateWeather(); });
     m_commands.Add(kCommandFahrenheit, this, [this] { ToggleSetting(keys::kRoamlytix, names::kFahrenheit); })
         ->setCheckable(true);
     m_commands
@@ -234,8 +244,10 @@ void CApplication::ToggleSetting(std::u16string_view key, std::u16string_view na
 
 void CApplication::RestoreScreen() {
     const std::uint32_t stored = m_settings->ReadDwordOr(keys::kRoamlytix, names::kCurrentTab, 0);
-    const int index = stored < m_window->Screens().size() ? static_cast<int>(stored) : 0;
-    m_window->ShowScreen(m_window->IsInRow(index) ? index : 0);
+    const int index = stored < static_cast<std::uint32_t>(m_window->Count()) ? static_cast<int>(stored) : 0;
+    const int shown = m_window->IsInRow(index) ? index : 0;
+    m_look.FetchAhead(m_window->Entry(shown).ground, m_window->LikelyContentSize(), m_window->devicePixelRatioF());
+    m_window->ShowScreen(shown);
 }
 
 /// Every screen paints anew when the look changes; dialogs and the frame take the palette.

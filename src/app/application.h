@@ -64,17 +64,19 @@ private:
     bool MayAsk() const;
     bool StartLanguage();
     void OpenCities();
-    void MakeScreens();
-    void MakeTools();
-    void MakeWeather();
+    CityChooser Chooser();
+    void AddScreens();
+    CScreen* MakeClocks();
+    CScreen* MakeMap();
+    CScreen* MakeWeather();
+    CScreen* MakeTools();
+    void UpdateWeather();
     void MakeReminders();
     void MakeCommands();
     void RestoreScreen();
     void ApplyLook();
     void UpdateChecks();
     void ToggleSetting(std::u16string_view key, std::u16string_view name, std::uint32_t fallback = 0);
-    void ChooseHomeCity();
-    void MakeMap();
     void ShowCityInformation(CityIndex city);
     void OpenSunDetails(const CitySunDetails& details);
     void ShowCredits();
@@ -102,8 +104,8 @@ private:
     std::optional<CFeedWiring> m_feeds;
     std::unique_ptr<CMainWindow> m_window;
     CClocksScreen* m_clocksScreen = nullptr;    ///< owned by the window
-    CToolsScreen* m_toolsScreen = nullptr;      ///< owned by the window
-    CWeatherScreen* m_weatherScreen = nullptr;  ///< owned by the window
+    CWeatherScreen* m_weatherScreen = nullptr;  ///< owned by the window; nothing until it is made
+    int m_weatherIndex = -1;
     std::unique_ptr<CSkinCommands> m_skins;
     std::optional<CReminderDuty> m_reminderDuty;
     std::optional<CReminderCommands> m_reminders;

@@ -19,6 +19,7 @@
 #include "shell/control_ids.h"
 #include "shell/program_paths.h"
 #include "shell/setting_names.h"
+#include "shell/text_ids.h"
 #include "uikit/qt_text.h"
 #include "uikit/template_dialog.h"
 #include "weather/text_ids.h"
@@ -77,23 +78,34 @@ CFeedWiring::CFeedWiring(const Ports& ports)
 }
 
 void CFeedWiring::AddCurrencyScreen() {
+    m_currencyIndex = m_ports.window.AddScreen({kTextScreenCurrencies, QStringLiteral("currency"), LookPicture::kCommon,
+                                                [this] { return m_currencyScreen = MakeCurrencyScreen(); }});
+}
+
+CCurrencyScreen* CFeedWiring::MakeCurrencyScreen() {
     const CCurrencyScreen::Source source{m_currencies, m_ports.registry,
                                          ShippedRatesDate(m_ports.files, m_ports.folder.Root())};
-    m_currencyScreen = new CCurrencyScreen(source, m_ports.clock, m_ports.resources, m_ports.look);
-    m_ports.window.AddScreen(m_currencyScreen);
-    QObject::connect(m_currencyScreen, &CCurrencyScreen::UpdateChosen, [this] { UpdateRates(); });
+    auto* screen = new CCurrencyScreen(source, m_ports.clock, m_ports.resources, m_ports.look);
+    QObject::connect(screen, &CCurrencyScreen::UpdateChosen, [this] { UpdateRates(); });
+    return screen;
 }
 
 void CFeedWiring::AddNewsScreen() {
-    const auto openLink = [](const QUrl& link) { QDesktopServices::openUrl(link); };
-    m_newsScreen =
-        new CNewsScreen(m_newsPage, {m_ports.clock, m_ports.resources, m_ports.boxes, m_ports.look}, openLink);
-    m_newsIndex = m_ports.window.AddScreen(m_newsScreen, false);
-    QObject::connect(m_newsScreen, &CNewsScreen::FetchChosen, [this] { FetchNews(); });
-    QObject::connect(m_newsScreen, &CNewsScreen::PageShown, [this] { ShowNewsState(); });
-    QObject::connect(m_newsScreen, &CNewsScreen::BackChosen, [this] { m_ports.window.ShowScreen(m_cameFrom); });
+    const auto make = [this] { return m_newsScreen = MakeNewsScreen(); };
+    m_newsIndex =
+        m_ports.window.AddScreen({kTextScreenNews, QStringLiteral("news"), LookPicture::kCommon, make}, false);
     QObject::connect(&m_ports.window, &CMainWindow::NewsChosen, [this] { ShowNews(); });
     ShowNewsState();
+}
+
+CNewsScreen* CFeedWiring::MakeNewsScreen() {
+    const auto openLink = [](const QUrl& link) { QDesktopServices::openUrl(link); };
+    auto* screen =
+        new CNewsScreen(m_newsPage, {m_ports.clock, m_ports.resources, m_ports.boxes, m_ports.look}, openLink);
+    QObject::connect(screen, &CNewsScreen::FetchChosen, [this] { FetchNews(); });
+    QObject::connect(screen, &CNewsScreen::PageShown, [this] { ShowNewsState(); });
+    QObject::connect(screen, &CNewsScreen::BackChosen, [this] { m_ports.window.ShowScreen(m_cameFrom); });
+    return screen;
 }
 
 void CFeedWiring::ShowNews() {
@@ -141,6 +153,7 @@ void CFeedWiring::UpdateRates() {
     WithServer(kTextUpdatingRates, [this](const FeedPorts& ports, CProgressRequest&, const std::u16string& url) {
         CRatesUpdate update(ports, m_ports.store, m_list);
         const CFeedParameters builder = Parameters();
+        m_ports.window.Screen(m_currencyIndex);
         const RatesLayout layout = m_currencyScreen->Layout();
         const std::u16string parameters = builder.CurrencyParameters(builder.HomeName(), layout.workArea);
         m_currencyScreen->TakeUpdate(update.Update(m_currencies, url, parameters, layout));

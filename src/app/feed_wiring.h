@@ -38,10 +38,10 @@ public:
 
     explicit CFeedWiring(const Ports& ports);
 
-    /// Makes the screen and puts it into the row.
+    /// Puts the screen into the row.
     void AddCurrencyScreen();
 
-    /// Makes the News page and lets the title bar's button lead to it. Comes after the screens of the row.
+    /// Lets the title bar's button lead to the News page. Comes after the screens of the row.
     void AddNewsScreen();
 
     /// Lets the Weather screen talk to the feed server; what it asks during one call is one update, for which the user
@@ -61,6 +61,8 @@ public:
     CFeedParameters Parameters();
 
 private:
+    CCurrencyScreen* MakeCurrencyScreen();
+    CNewsScreen* MakeNewsScreen();
     void ShowNewsState();
 
     Ports m_ports;
@@ -68,8 +70,9 @@ private:
     CurrencyList m_list;
     CCurrencyDatabase m_currencies;
     CNewsPage m_newsPage;
-    CCurrencyScreen* m_currencyScreen = nullptr;  ///< both owned by the window
+    CCurrencyScreen* m_currencyScreen = nullptr;  ///< both owned by the window, and nothing until they are made
     CNewsScreen* m_newsScreen = nullptr;
+    int m_currencyIndex = -1;
     int m_newsIndex = -1;
     int m_cameFrom = 0;
 };

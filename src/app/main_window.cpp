@@ -5,6 +5,7 @@
 #include <QShortcut>
 #include <QTimer>
 #include <QWindowStateChangeEvent>
+#include <algorithm>
 #include <utility>
 
 #include "app/text_ids.h"
@@ -54,38 +55,59 @@ CMainWindow::CMainWindow(const IClock& clock, const ITexts& texts)
     Arrange();
 }
 
-int CMainWindow::AddScreen(CScreen* screen, bool inRow) {
-    const QString title = ToQString(m_texts.Text(screen->TitleText()));
-    screen->setAccessibleName(title);
-    m_screens.push_back(screen);
+int CMainWindow::AddScreen(ScreenEntry entry, bool inRow) {
     if (inRow) {
-        m_row->Add(screen->IconName(), title);
+        m_row->Add(entry.icon, ToQString(m_texts.Text(entry.titleText)));
         const int index = m_inRow++;
         auto* shortcut = new QShortcut(QKeySequence(QStringLiteral("Ctrl+%1").arg(index + 1)), this);
         connect(shortcut, &QShortcut::activated, this, [this, index] { ShowScreen(index); });
     }
-    return m_stack->addWidget(screen);
+    m_screens.push_back({std::move(entry)});
+    return Count() - 1;
+}
+
+CScreen& CMainWindow::Screen(int index) {
+    Slot& slot = m_screens[static_cast<std::size_t>(index)];
+    if (slot.screen == nullptr) {
+        slot.screen = slot.entry.make();
+        slot.screen->setAccessibleName(ToQString(m_texts.Text(slot.entry.titleText)));
+        m_stack->addWidget(slot.screen);
+    }
+    return *slot.screen;
+}
+
+/// One in each turn, so that a press meanwhile does not wait for all of them.
+void CMainWindow::MakeNextScreen() {
+    const auto next =
+        std::find_if(m_screens.begin(), m_screens.end(), [](const Slot& slot) { return slot.screen == nullptr; });
+    if (next == m_screens.end()) return;
+    Screen(static_cast<int>(next - m_screens.begin()));
+    QTimer::singleShot(0, this, &CMainWindow::MakeNextScreen);
 }
 
 bool CMainWindow::ShowScreen(int index) {
-    if (index < 0 || index >= m_stack->count()) return false;
+    if (index < 0 || index >= Count()) return false;
     CScreen* current = Current();
-    const bool leaves = current != nullptr && index != m_stack->currentIndex();
+    const bool leaves = current != nullptr && index != m_current;
     if (leaves && isVisible() && !current->MayLeave()) {
-        m_row->SetCurrent(m_stack->currentIndex());
+        m_row->SetCurrent(m_current);
         return false;
     }
-    m_stack->setCurrentIndex(index);
+    m_stack->setCurrentWidget(&Screen(index));
+    m_current = index;
     m_row->SetCurrent(index);
-    m_titleBar->SetTitle(ToQString(m_texts.Text(Current()->TitleText())));
+    m_titleBar->SetTitle(ToQString(m_texts.Text(Entry(index).titleText)));
     Current()->setFocus(Qt::OtherFocusReason);
     if (isVisible()) Current()->Entered();
     emit ScreenShown(index);
     return true;
 }
 
-CScreen* CMainWindow::Current() const {
-    return qobject_cast<CScreen*>(m_stack->currentWidget());
+QSize CMainWindow::LikelyContentSize() const {
+    const RowForm form = Form();
+    const int row = CScreenRow::LeastExtent(form.orientation, form.labels);
+    const QSize below = size() - QSize(0, CTitleBar::kLeastHeight);
+    return form.orientation == Qt::Vertical ? below - QSize(row, 0) : below - QSize(0, row);
 }
 
 void CMainWindow::SetColours(const FrameColours& colours) {
@@ -98,13 +120,19 @@ void CMainWindow::SetFreshNews(bool fresh) {
 }
 
 void CMainWindow::RefreshScreens() {
-    for (CScreen* screen : m_screens)
-        screen->Refresh();
+    for (const Slot& slot : m_screens) {
+        if (slot.screen != nullptr) slot.screen->Refresh();
+    }
 }
 
 /// The row lies below an upright screen and beside a lying one, where height is scarce.
+CMainWindow::RowForm CMainWindow::Form() const {
+    if (width() > height()) return {Qt::Vertical, width() >= kWidthForSideLabels && height() >= kHeightForSideLabels};
+    return {Qt::Horizontal, width() >= kWidthForBottomLabels && height() >= kHeightForBottomLabels};
+}
+
 void CMainWindow::Arrange() {
-    const bool lying = width() > height();
+    const RowForm form = Form();
     m_layout->removeWidget(m_titleBar);
     m_layout->removeWidget(m_stack);
     m_layout->removeWidget(m_row);
@@ -112,13 +140,12 @@ void CMainWindow::Arrange() {
         m_layout->setRowStretch(i, i == 1 ? 1 : 0);
         m_layout->setColumnStretch(i, i == 1 ? 1 : 0);
     }
-    if (lying) {
-        m_row->SetForm(Qt::Vertical, width() >= kWidthForSideLabels && height() >= kHeightForSideLabels);
+    m_row->SetForm(form.orientation, form.labels);
+    if (form.orientation == Qt::Vertical) {
         m_layout->addWidget(m_row, 0, 0, 2, 1);
         m_layout->addWidget(m_titleBar, 0, 1);
         m_layout->addWidget(m_stack, 1, 1);
     } else {
-        m_row->SetForm(Qt::Horizontal, width() >= kWidthForBottomLabels && height() >= kHeightForBottomLabels);
         m_layout->addWidget(m_titleBar, 0, 0, 1, 2);
         m_layout->addWidget(m_stack, 1, 0, 1, 2);
         m_layout->addWidget(m_row, 2, 0, 1, 2);
@@ -138,8 +165,14 @@ void CMainWindow::StepScreen(int by) {
     if (m_inRow == 0) return;
     // From a screen outside the row the step leads to one of its ends.
     const int outside = by > 0 ? -1 : m_inRow;
-    const int from = IsInRow(m_stack->currentIndex()) ? m_stack->currentIndex() : outside;
+    const int from = IsInRow(m_current) ? m_current : outside;
     ShowScreen((from + by + m_inRow) % m_inRow);
+}
+
+void CMainWindow::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    // Behind the first frame: nobody waits for screens that are not seen.
+    if (!std::exchange(m_painted, true)) QTimer::singleShot(0, this, &CMainWindow::MakeNextScreen);
 }
 
 void CMainWindow::resizeEvent(QResizeEvent* /*event*/) {

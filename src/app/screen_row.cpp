@@ -12,12 +12,13 @@ constexpr int kIconSize = 24;
 constexpr int kButtonSize = 44;
 constexpr int kLabelledWidth = 96;
 constexpr int kLabelledHeight = 60;
+constexpr int kMargin = 2;
 
 }  // namespace
 
 CScreenRow::CScreenRow(QWidget* parent) : QWidget(parent), m_layout(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
     setObjectName("screenRow");
-    m_layout->setContentsMargins(2, 2, 2, 2);
+    m_layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     m_layout->setSpacing(0);
     m_buttons.setExclusive(true);
     connect(&m_buttons, &QButtonGroup::idClicked, this, &CScreenRow::Chosen);
@@ -32,6 +33,7 @@ void CScreenRow::Add(const QString& iconName, const QString& title) {
     button->setToolTip(title);
     button->setAccessibleName(title);
     button->setIconSize({kIconSize, kIconSize});
+    if (m_text.isValid()) button->setIcon(TintedIcon(iconName, m_text));
     m_buttons.addButton(button, static_cast<int>(m_iconNames.size()));
     m_iconNames.push_back(iconName);
     m_layout->addWidget(button);
@@ -73,10 +75,14 @@ void CScreenRow::SetForm(Qt::Orientation orientation, bool labels) {
         auto* button = qobject_cast<QToolButton*>(each);
         button->setToolButtonStyle(labels ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
         button->setSizePolicy(lying ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
-        button->setMinimumSize(
-            lying ? QSize(0, labels ? kLabelledHeight : kButtonSize - 4)
-                  : QSize(labels ? kLabelledWidth : kButtonSize, labels ? kLabelledHeight : kButtonSize - 4));
+        const int height = labels ? kLabelledHeight : kButtonSize - 2 * kMargin;
+        button->setMinimumSize(lying ? 0 : LeastExtent(orientation, labels) - 2 * kMargin, height);
     }
+}
+
+int CScreenRow::LeastExtent(Qt::Orientation orientation, bool labels) {
+    if (orientation == Qt::Horizontal) return labels ? kLabelledHeight + 2 * kMargin : kButtonSize;
+    return (labels ? kLabelledWidth : kButtonSize) + 2 * kMargin;
 }
 
 void CScreenRow::PaintIcons() {

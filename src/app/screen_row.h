@@ -25,6 +25,10 @@ public:
     /// Puts the buttons beside or below each other and shows labels when the window has room for them.
     void SetForm(Qt::Orientation orientation, bool labels);
 
+    /// How much of the window such a row takes at least: its height below an upright window, its width beside a lying
+    /// one.
+    static int LeastExtent(Qt::Orientation orientation, bool labels);
+
 signals:
     void Chosen(int index);
 

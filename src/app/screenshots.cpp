@@ -11,10 +11,9 @@ namespace {
 constexpr int kSmallestSide = 100;
 constexpr int kLargestSide = 8192;
 
-QString NameOf(const CScreen& screen, int view, const QSize& size) {
-    const QString viewName = screen.ViewName(view);
+QString NameOf(const QString& screen, const QString& viewName, const QSize& size) {
     return QStringLiteral("%1%2-%3x%4.png")
-        .arg(screen.IconName(), viewName.isEmpty() ? QString() : "-" + viewName)
+        .arg(screen, viewName.isEmpty() ? QString() : "-" + viewName)
         .arg(size.width())
         .arg(size.height());
 }
@@ -42,11 +41,12 @@ std::optional<QStringList> RenderScreens(CMainWindow& window, const QString& fol
         window.setMinimumSize(0, 0);
         window.resize(size);
         window.show();
-        for (std::size_t i = 0; i < window.Screens().size(); ++i) {
-            window.ShowScreen(static_cast<int>(i));
-            for (int view = 0; view < window.Screens()[i]->ViewCount(); ++view) {
-                const QString path = QDir(folder).filePath(NameOf(*window.Screens()[i], view, size));
-                window.Screens()[i]->ShowView(view);
+        for (int i = 0; i < window.Count(); ++i) {
+            window.ShowScreen(i);
+            CScreen& screen = window.Screen(i);
+            for (int view = 0; view < screen.ViewCount(); ++view) {
+                const QString path = QDir(folder).filePath(NameOf(window.Entry(i).icon, screen.ViewName(view), size));
+                screen.ShowView(view);
                 QApplication::processEvents();
                 if (!window.grab().save(path)) return std::nullopt;
                 written << path;

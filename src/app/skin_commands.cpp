@@ -102,10 +102,11 @@ void CSkinCommands::Edit() {
 /// A screen that is not the one shown takes its size first.
 QPixmap CSkinCommands::PictureOf(SkinSection section) {
     const int title = TitleTextOf(section);
-    for (CScreen* screen : m_window.Screens()) {
-        if (title == 0 || screen->TitleText() != title) continue;
-        if (m_window.Current() != nullptr) screen->resize(m_window.Current()->size());
-        return screen->grab();
+    for (int i = 0; i < m_window.Count(); ++i) {
+        if (title == 0 || m_window.Entry(i).titleText != title) continue;
+        CScreen& screen = m_window.Screen(i);
+        if (m_window.Current() != nullptr) screen.resize(m_window.Current()->size());
+        return screen.grab();
     }
     return m_window.grab();
 }

@@ -9,7 +9,6 @@ namespace rlx {
 
 namespace {
 
-constexpr int kButtonSize = 30;
 constexpr int kIconSize = 20;
 constexpr double kDotRadius = 5;
 
@@ -18,7 +17,7 @@ QToolButton* MakeButton(QWidget* parent, const char* name) {
     button->setObjectName(name);
     button->setAutoRaise(true);
     button->setIconSize({kIconSize, kIconSize});
-    button->setFixedSize(kButtonSize, kButtonSize);
+    button->setFixedSize(CTitleBar::kLeastHeight, CTitleBar::kLeastHeight);
     return button;
 }
 

@@ -13,6 +13,9 @@ class CTitleBar : public QWidget {
     Q_OBJECT
 
 public:
+    /// Its height, unless the system's font is a large one.
+    static constexpr int kLeastHeight = 30;
+
     explicit CTitleBar(QWidget* parent = nullptr);
 
     void SetTitle(const QString& title);

@@ -26,6 +26,17 @@ std::optional<SkinKey> ToolKeyOf(LookPicture which) {
     }
 }
 
+int KeyOf(LookPicture which, SkinLayout layout) {
+    return static_cast<int>(which) * 4 + static_cast<int>(layout);
+}
+
+/// The middle of the picture, as large as the pixels ask.
+QImage Cover(const QImage& source, const QSize& pixels) {
+    const QImage cover = source.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    const QPoint corner((cover.width() - pixels.width()) / 2, (cover.height() - pixels.height()) / 2);
+    return cover.copy(QRect(corner, pixels));
+}
+
 SkinSection ScreenOf(LookPicture which) {
     if (which == LookPicture::kWeather) return SkinSection::kWeather;
     return which == LookPicture::kMap ? SkinSection::kMap : SkinSection::kClocks;
@@ -38,6 +49,7 @@ CLook::CLook(IFileSystem& files, const IImageCodec& codec, QObject* parent)
 
 void CLook::SetSkin(CSkin skin) {
     m_skin = std::move(skin);
+    m_ahead.reset();
     m_pictures.clear();
     emit Changed();
 }
@@ -91,32 +103,58 @@ std::optional<std::filesystem::path> CLook::FileOf(LookPicture which, SkinLayout
     return m_skin.Background(m_files, ScreenOf(which), layout);
 }
 
-std::optional<CBitmap> CLook::Load(const std::filesystem::path& file) const {
+/// In any thread.
+std::optional<QImage> CLook::Load(const std::filesystem::path& file) const {
     const auto bytes = m_files.ReadFile(file, IImageCodec::kMaxFileSize);
     auto bitmap = bytes ? m_codec.Load(*bytes) : std::nullopt;
-    if (!bitmap) emit PictureBroken(QString::fromStdString(file.string()));
-    return bitmap;
+    if (!bitmap) return std::nullopt;
+    return ImageOf(*std::move(bitmap));
+}
+
+void CLook::FetchAhead(LookPicture which, const QSize& area, qreal ratio) {
+    const SkinLayout layout = LayoutOf(area);
+    const auto file = FileOf(which, layout);
+    if (!file) return;
+    const QSize pixels = (QSizeF(area) * ratio).toSize();
+    auto read = [this, file = *file, pixels] {
+        std::optional<QImage> source = Load(file);
+        QImage cover = source ? Cover(*source, pixels) : QImage();
+        return Ahead::Images{std::move(source), std::move(cover)};
+    };
+    m_ahead = {KeyOf(which, layout), QString::fromStdString(file->string()),
+               std::async(std::launch::async, std::move(read))};
+}
+
+void CLook::TakeAhead(int picture, qreal ratio) const {
+    if (!m_ahead || m_ahead->picture != picture) return;
+    Ahead ahead = *std::exchange(m_ahead, std::nullopt);
+    Ahead::Images images = ahead.images.get();
+    if (!images.source) emit PictureBroken(ahead.file);
+    Picture& taken = m_pictures[picture];
+    taken.source = std::move(images.source).value_or(QImage());
+    taken.scaled = QPixmap::fromImage(std::move(images.cover));
+    taken.scaled.setDevicePixelRatio(ratio);
 }
 
 const QImage& CLook::Source(LookPicture which, SkinLayout layout) const {
-    Picture& picture = m_pictures[static_cast<int>(which) * 4 + static_cast<int>(layout)];
+    Picture& picture = m_pictures[KeyOf(which, layout)];
     if (!picture.source) {
         const auto file = FileOf(which, layout);
-        auto bitmap = file ? Load(*file) : std::nullopt;
-        picture.source = bitmap ? ImageOf(*std::move(bitmap)) : QImage();
+        picture.source = file ? Load(*file) : QImage();
+        if (!picture.source) emit PictureBroken(QString::fromStdString(file->string()));
+        if (!picture.source) picture.source = QImage();
     }
     return *picture.source;
 }
 
 const QPixmap& CLook::Scaled(LookPicture which, const QSize& size, qreal ratio) const {
     const SkinLayout layout = LayoutOf(size);
+    TakeAhead(KeyOf(which, layout), ratio);
     const QImage& source = Source(which, layout);
-    Picture& picture = m_pictures[static_cast<int>(which) * 4 + static_cast<int>(layout)];
+    Picture& picture = m_pictures[KeyOf(which, layout)];
     const QSize pixels = (QSizeF(size) * ratio).toSize();
     if (picture.scaled.size() == pixels || source.isNull()) return picture.scaled;
-    const QImage cover = source.scaled(pixels, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    const QPoint corner((cover.width() - pixels.width()) / 2, (cover.height() - pixels.height()) / 2);
-    picture.scaled = QPixmap::fromImage(cover.copy(QRect(corner, pixels)));
+    picture.scaled = QPixmap::fromImage(Cover(source, pixels));
     picture.scaled.setDevicePixelRatio(ratio);
     return picture.scaled;
 }

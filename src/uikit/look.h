@@ -8,6 +8,7 @@
 #include <QPalette>
 #include <QPixmap>
 #include <QRect>
+#include <future>
 #include <optional>
 
 #include "platform/bitmap.h"
@@ -48,6 +49,10 @@ public:
     /// such picture or it is broken.
     void PaintBackground(QPainter& painter, const QRect& area, LookPicture which) const;
 
+    /// Reads the picture for an area of that size, in pixels of `ratio` to the unit, in a thread of its own. Who paints
+    /// it next finds it there, or waits for the rest of the work.
+    void FetchAhead(LookPicture which, const QSize& area, qreal ratio);
+
     /// The world map of the skin, the smallest of its files that is at least `width` pixels wide, else the largest;
     /// nothing when none can be read.
     std::optional<CBitmap> Map(int width) const;
@@ -67,7 +72,7 @@ private:
     const QImage& Source(LookPicture which, SkinLayout layout) const;
     const QPixmap& Scaled(LookPicture which, const QSize& size, qreal ratio) const;
 
-    std::optional<CBitmap> Load(const std::filesystem::path& file) const;
+    std::optional<QImage> Load(const std::filesystem::path& file) const;
 
     /// A picture as read, and the last scaling of it.
     struct Picture {
@@ -75,10 +80,25 @@ private:
         QPixmap scaled;
     };
 
+    /// A picture that another thread reads: what is in the file, nothing where it is broken, and that made to cover an
+    /// area.
+    struct Ahead {
+        struct Images {
+            std::optional<QImage> source;
+            QImage cover;
+        };
+        int picture;  ///< key in `m_pictures`
+        QString file;
+        std::future<Images> images;
+    };
+
+    void TakeAhead(int picture, qreal ratio) const;
+
     IFileSystem& m_files;
     const IImageCodec& m_codec;
     CSkin m_skin;
     mutable QHash<int, Picture> m_pictures;
+    mutable std::optional<Ahead> m_ahead;
 };
 
 }  // namespace rlx

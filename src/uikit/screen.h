@@ -12,12 +12,6 @@ class CScreen : public QWidget {
 public:
     explicit CScreen(QWidget* parent = nullptr) : QWidget(parent) {}
 
-    /// Number of the text that names the screen.
-    virtual int TitleText() const = 0;
-
-    /// File name of the icon in the icons folder, without its extension.
-    virtual QString IconName() const = 0;
-
     /// Settings, cities, the skin or the language in force have changed: read again what is shown.
     virtual void Refresh() {}
 

@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "app/application.h"
+#include "app/fonts_ahead.h"
 #include "app/reminder_run.h"
 #include "app/screenshots.h"
 #include "base/text.h"
@@ -135,6 +136,7 @@ int main(int count, char** words) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qInstallMessageHandler(DropPluginChatter);
     }
+    const rlx::CFontsAhead fonts;
     QApplication::setStyle(new rlx::CWindowStyle);
     QApplication qt(count, words);
     rlx::CEnterPresses enter;

@@ -16,7 +16,6 @@
 #include "shell/clock_text.h"
 #include "shell/registry_store.h"
 #include "shell/resources.h"
-#include "shell/text_ids.h"
 #include "uikit/look.h"
 #include "uikit/screen.h"
 #include "uikit/template_menu.h"
@@ -33,8 +32,6 @@ public:
     CClocksScreen(CCityDatabase& cities, const IClock& clock, CRegistryStore& settings, const CResources& resources,
                   IMessageBoxes& boxes, const CLook& look, CityChooser chooseCity);
 
-    int TitleText() const override { return kTextScreenClocks; }
-    QString IconName() const override { return QStringLiteral("clocks"); }
     void Refresh() override;
     void Tick() override;
     void Entered() override;

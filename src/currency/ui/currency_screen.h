@@ -12,7 +12,6 @@
 #include "feeds/rates_origin.h"
 #include "feeds/rates_update.h"
 #include "platform/clock.h"
-#include "shell/text_ids.h"
 #include "uikit/look.h"
 #include "uikit/screen.h"
 
@@ -34,8 +33,6 @@ public:
 
     CCurrencyScreen(const Source& source, const IClock& clock, const ITexts& texts, const CLook& look);
 
-    int TitleText() const override { return kTextScreenCurrencies; }
-    QString IconName() const override { return QStringLiteral("currency"); }
     void Refresh() override;
     void Tick() override;
 

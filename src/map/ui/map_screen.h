@@ -13,7 +13,6 @@
 #include "platform/message_boxes.h"
 #include "shell/clock_text.h"
 #include "shell/registry_store.h"
-#include "shell/text_ids.h"
 #include "uikit/screen.h"
 
 namespace rlx {
@@ -29,8 +28,6 @@ public:
     CMapScreen(CCityDatabase& cities, const IClock& clock, CRegistryStore& settings, const ITexts& texts,
                IMessageBoxes& boxes, const CLook& look);
 
-    int TitleText() const override { return kTextScreenMap; }
-    QString IconName() const override { return QStringLiteral("map"); }
     void Refresh() override;
     void Entered() override;
 

@@ -9,6 +9,7 @@
 #include "news/text_ids.h"
 #include "shell/boxes.h"
 #include "shell/fill_text.h"
+#include "shell/text_ids.h"
 #include "uikit/icons.h"
 #include "uikit/qt_text.h"
 

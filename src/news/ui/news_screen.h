@@ -10,7 +10,6 @@
 #include "news/ui/zoom_bar.h"
 #include "platform/clock.h"
 #include "platform/message_boxes.h"
-#include "shell/text_ids.h"
 #include "uikit/look.h"
 #include "uikit/screen.h"
 
@@ -34,8 +33,6 @@ public:
     /// `openLink` opens a link outside the program; it is only called after the user has agreed.
     CNewsScreen(CNewsPage& page, const Ports& ports, OpenLink openLink);
 
-    int TitleText() const override { return kTextScreenNews; }
-    QString IconName() const override { return QStringLiteral("news"); }
     void Refresh() override;
     void Tick() override;
     bool GoBack() override;

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "shell/registry_store.h"
-#include "shell/text_ids.h"
 #include "shell/texts.h"
 #include "tools/ui/tool_header.h"
 #include "tools/ui/tool_list.h"
@@ -34,8 +33,6 @@ public:
     /// The page shown; null for the list.
     CToolPage* Current() const;
 
-    int TitleText() const override { return kTextScreenTools; }
-    QString IconName() const override { return QStringLiteral("tools"); }
     void Refresh() override;
     QList<QAction*> Commands() override;
     bool MayLeave() override;

@@ -9,7 +9,6 @@
 
 #include "platform/message_boxes.h"
 #include "shell/resources.h"
-#include "shell/text_ids.h"
 #include "uikit/screen.h"
 #include "uikit/template_menu.h"
 #include "weather/place_forecast.h"
@@ -51,8 +50,6 @@ class CWeatherScreen : public CScreen {
 public:
     explicit CWeatherScreen(WeatherPorts ports);
 
-    int TitleText() const override { return kTextScreenWeather; }
-    QString IconName() const override { return QStringLiteral("weather"); }
     void Refresh() override;
     void Tick() override;
     void Entered() override;

@@ -194,13 +194,13 @@ protected:
 TEST_F(PseudoWalk, EveryScreenSpeaksTheLanguageAndHasRoomForIt) {
     for (const QSize size : {QSize(240, 320), QSize(320, 240), QSize(480, 640)}) {
         Resize(size);
-        for (std::size_t i = 0; i < Window().Screens().size(); ++i) {
-            Window().ShowScreen(static_cast<int>(i));
-            CScreen& screen = *Window().Screens()[i];
+        for (int i = 0; i < Window().Count(); ++i) {
+            Window().ShowScreen(i);
+            CScreen& screen = Window().Screen(i);
             for (int view = 0; view < screen.ViewCount(); ++view) {
                 screen.ShowView(view);
                 Check(Window(), QString("%1 %2 %3x%4")
-                                    .arg(screen.IconName(), screen.ViewName(view))
+                                    .arg(Window().Entry(i).icon, screen.ViewName(view))
                                     .arg(size.width())
                                     .arg(size.height()));
             }
@@ -212,12 +212,12 @@ TEST_F(PseudoWalk, EveryScreenSpeaksTheLanguageAndHasRoomForIt) {
 TEST_F(PseudoWalk, EveryDialogSpeaksTheLanguageAndHasRoomForIt) {
     Resize({240, 320});
     PressAll(Window().Menu(), "menu", 0);
-    for (std::size_t i = 0; i < Window().Screens().size(); ++i) {
-        Window().ShowScreen(static_cast<int>(i));
-        CScreen& screen = *Window().Screens()[i];
+    for (int i = 0; i < Window().Count(); ++i) {
+        Window().ShowScreen(i);
+        CScreen& screen = Window().Screen(i);
         for (int view = 0; view < screen.ViewCount(); ++view) {
             screen.ShowView(view);
-            PressAll(screen, screen.IconName() + " " + screen.ViewName(view), 0);
+            PressAll(screen, Window().Entry(i).icon + " " + screen.ViewName(view), 0);
         }
     }
     EXPECT_GT(m_met.size(), 10U);

@@ -74,12 +74,12 @@ TEST_P(Contrast, EveryTextStandsOutFromItsGround) {
     for (const QSize size : {QSize(240, 320), QSize(320, 240), QSize(480, 640), QSize(1280, 800)}) {
         Window().resize(size);
         Window().show();
-        for (std::size_t i = 0; i < Window().Screens().size(); ++i) {
-            Window().ShowScreen(static_cast<int>(i));
-            CScreen& screen = *Window().Screens()[i];
+        for (int i = 0; i < Window().Count(); ++i) {
+            Window().ShowScreen(i);
+            CScreen& screen = Window().Screen(i);
             for (int view = 0; view < screen.ViewCount(); ++view) {
                 screen.ShowView(view);
-                Check(Window(), QString("%1 %2 %3").arg(screen.IconName(), screen.ViewName(view)).arg(size.width()));
+                Check(Window(), QString("%1 %2 %3").arg(Window().Entry(i).icon, screen.ViewName(view)).arg(size.width()));
             }
         }
     }

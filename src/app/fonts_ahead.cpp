@@ -1,0 +1,9 @@
+#include "app/fonts_ahead.h"
+
+#include <fontconfig/fontconfig.h>
+
+namespace rlx {
+
+CFontsAhead::CFontsAhead() : m_thread([] { FcInit(); }) {}
+
+}  // namespace rlx
