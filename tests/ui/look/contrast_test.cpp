@@ -79,7 +79,8 @@ TEST_P(Contrast, EveryTextStandsOutFromItsGround) {
             CScreen& screen = Window().Screen(i);
             for (int view = 0; view < screen.ViewCount(); ++view) {
                 screen.ShowView(view);
-                Check(Window(), QString("%1 %2 %3").arg(Window().Entry(i).icon, screen.ViewName(view)).arg(size.width()));
+                Check(Window(),
+                      QString("%1 %2 %3").arg(Window().Entry(i).icon, screen.ViewName(view)).arg(size.width()));
             }
         }
     }
