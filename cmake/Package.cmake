@@ -11,7 +11,7 @@ foreach(program rlx roamlytix roamlytix-feedd)
         install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
     endif()
 endforeach()
-install(TARGETS rlx_http rlx_zones LIBRARY DESTINATION lib/roamlytix)
+install(TARGETS rlx_http rlx_zones rlx_pictures LIBRARY DESTINATION lib/roamlytix)
 install(DIRECTORY data/ DESTINATION ${RLX_DATA} PATTERN make EXCLUDE PATTERN icons EXCLUDE)
 # Language modules, as far as there are any.
 install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/LangsRes DESTINATION ${RLX_DATA} OPTIONAL)

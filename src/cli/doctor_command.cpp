@@ -3,7 +3,6 @@
 #include "cli/commands.h"
 #include "doctor/checks.h"
 #include "doctor/text_ids.h"
-#include "platform/image/image_codec.h"
 #include "platform/posix/time_zones_module.h"
 #include "shell/program_paths.h"
 #include "shell/text_ids.h"
@@ -34,7 +33,7 @@ std::vector<DoctorFault> Examine(CSession& session) {
     CheckFeedAddress(ports, report);
     CheckLanguages(ports, session.Settings(), report);
     CheckSkins(ports, session.Settings(), report);
-    CheckPictures(ports, CImageCodec(), report);
+    CheckPictures(ports, session.Images(), report);
     CheckPackingList(ports, report);
     return report.Faults();
 }

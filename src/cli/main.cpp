@@ -15,7 +15,7 @@ namespace rlx::cli {
 
 namespace {
 
-/// The subcommand that the words name, so that only its options need to be declared: the first word that is neither a
+/// The subcommand that the words name, so that only it needs to be declared: the first word that is neither a
 /// global option nor its value.
 const Command* Named(const CLI::App& app, const std::vector<std::string>& words) {
     for (std::size_t i = 0; i < words.size(); ++i) {
@@ -125,9 +125,9 @@ int Run(int count, char** arguments) {
     // What stands behind a wrong word may never be read, but the answer must have the form that was asked for.
     const bool json = std::find(words.begin(), words.end(), "--json") != words.end();
     for (const Command& command : Commands()) {
+        if (named != nullptr && named != &command) continue;
         CLI::App* sub = app.add_subcommand(command.name, command.help);
-        if (named == nullptr || named == &command)
-            command.declare(*sub, [&action](Action given) { action = std::move(given); });
+        command.declare(*sub, [&action](Action given) { action = std::move(given); });
     }
     TakeMarksOff(app);
     try {

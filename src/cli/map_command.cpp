@@ -8,7 +8,6 @@
 #include "map/map_picture.h"
 #include "map/night_shadow.h"
 #include "map/text_ids.h"
-#include "platform/image/image_codec.h"
 #include "shell/setting_names.h"
 #include "shell/text_ids.h"
 #include "skins/skin_file.h"
@@ -75,14 +74,14 @@ CBitmap ImageOf(CSession& session, const CSkin& skin, const MapWords& words) {
         session.Fail(session.Text(kTextMapImageMissing, file));
         told = true;
     };
-    auto image = LoadSkinMap(session.Files(), CImageCodec(), skin, width,
+    auto image = LoadSkinMap(session.Files(), session.Images(), skin, width,
                              [&tell](const std::filesystem::path& file) { tell(FromUtf8(file.string())); });
     if (!image && !told) tell(skin.Name(SkinKey::kMapMI));
     return std::move(image).value_or(CBitmap());
 }
 
 bool WritePicture(CSession& session, const CBitmap& picture, const std::string& output) {
-    const auto bytes = CImageCodec().SavePng(picture);
+    const auto bytes = session.Images().SavePng(picture);
     if (bytes && session.Files().WriteFile(std::filesystem::absolute(output), *bytes)) return true;
     session.Fail(session.Text(kTextFileNotSaved, FromUtf8(output)));
     return false;

@@ -8,6 +8,7 @@
 #include "places/city_list_messages.h"
 #include "places/city_search.h"
 #include "platform/posix/frozen_clock.h"
+#include "platform/posix/image_module.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/system_clock.h"
 #include "shell/boxes.h"
@@ -32,6 +33,7 @@ struct CSession::Parts {
     explicit Parts(const GlobalOptions& options) : clock(systemClock, options.now, options.bias) {}
 
     CPosixFileSystem files;
+    std::optional<CImageModule> images;
     CSystemClock systemClock;
     CFrozenClock clock;
     std::optional<CApplicationFolder> folder;
@@ -56,6 +58,11 @@ CSession::~CSession() = default;
 
 IFileSystem& CSession::Files() {
     return m_parts->files;
+}
+
+const IImageCodec& CSession::Images() {
+    if (!m_parts->images) m_parts->images.emplace(ProgramFolders({}).executableFolder);
+    return *m_parts->images;
 }
 
 const IClock& CSession::Clock() {

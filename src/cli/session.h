@@ -13,6 +13,7 @@
 #include "places/city_times.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
+#include "platform/image_codec.h"
 #include "platform/object_store.h"
 #include "platform/registry.h"
 #include "platform/sqlite/device_store.h"
@@ -36,6 +37,7 @@ public:
     const std::u16string& LanguageModule();
 
     IFileSystem& Files();
+    const IImageCodec& Images();
     const IClock& Clock();
     const CApplicationFolder& Folder();
     IRegistry& Registry();

@@ -9,7 +9,6 @@
 #include "clocks/ui/choose_city.h"
 #include "clocks/ui/clock_painter.h"
 #include "clocks/ui/clocks_layout.h"
-#include "clocks/ui/still_picture.h"
 #include "places/city_info.h"
 #include "places/city_times.h"
 #include "platform/message_boxes.h"
@@ -18,6 +17,7 @@
 #include "shell/resources.h"
 #include "uikit/look.h"
 #include "uikit/screen.h"
+#include "uikit/still_picture.h"
 #include "uikit/template_menu.h"
 
 namespace rlx {

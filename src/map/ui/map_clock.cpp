@@ -28,6 +28,7 @@ void PaintHand(QPainter& painter, const QPointF& centre, double turn, double len
 
 CMapClock::CMapClock(const CLook& look, QWidget* parent) : QAbstractButton(parent), m_look(look) {
     setFocusPolicy(Qt::TabFocus);
+    connect(&m_look, &CLook::Changed, this, [this] { m_still.Forget(); });
 }
 
 void CMapClock::Show(const ClockReading& reading, const QString& time, const QString& date) {
@@ -48,13 +49,32 @@ QString CMapClock::DateFor(double width, double height, const QFont& font) const
     return QFontMetricsF(sized).horizontalAdvance(m_longDate) <= width ? m_longDate : m_date;
 }
 
-void CMapClock::PaintFace(QPainter& painter, const QRectF& area) const {
-    const QPointF centre = area.center();
-    const double radius = area.width() / 2 - 1;
-    const double minute = (m_reading.minute + m_reading.second / 60.0) / 60.0;
+QRectF CMapClock::Inside() const {
+    return QRectF(rect()).adjusted(kPadding, kPadding / 2, -kPadding, -kPadding / 2);
+}
+
+QRectF CMapClock::Face() const {
+    const QRectF inside = Inside();
+    return {inside.topLeft(), QSizeF(inside.height(), inside.height())};
+}
+
+/// The card and the empty face.
+void CMapClock::PaintStill(QPainter& painter, const Still& still) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(still.focus ? QPen(m_look.PanelText(), 2) : QPen(Qt::NoPen));
+    painter.setBrush(m_look.Card());
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
+    if (!still.face) return;
     painter.setPen(QPen(m_look.Colour(SkinKey::kMapACC), 1.2));
     painter.setBrush(m_look.Panel());
-    painter.drawEllipse(centre, radius, radius);
+    painter.drawEllipse(Face().adjusted(1, 1, -1, -1));
+}
+
+void CMapClock::PaintHands(QPainter& painter, const QRectF& face) const {
+    const QPointF centre = face.center();
+    const double radius = face.width() / 2 - 1;
+    const double minute = (m_reading.minute + m_reading.second / 60.0) / 60.0;
+    painter.setPen(QPen(m_look.Colour(SkinKey::kMapACC), 1.2));
     PaintHand(painter, centre, (static_cast<double>(m_reading.hour % 12) + minute) / 12.0, radius * 0.5, 2);
     PaintHand(painter, centre, minute, radius * 0.8, 1.4);
 }
@@ -92,18 +112,21 @@ void CMapClock::PaintFlat(QPainter& painter, const QRectF& area) const {
 
 void CMapClock::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    const bool tall = height() > width() / 2;
+    const Still still{hasFocus(), !tall && width() >= kFaceFrom};
+    painter.drawPixmap(
+        0, 0,
+        m_still.Of(
+            still, size(), devicePixelRatioF(), [&](QPainter& p) { PaintStill(p, still); }, StillGround::kClear));
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(hasFocus() ? QPen(m_look.PanelText(), 2) : QPen(Qt::NoPen));
-    painter.setBrush(m_look.Card());
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
-    QRectF area = QRectF(rect()).adjusted(kPadding, kPadding / 2, -kPadding, -kPadding / 2);
-    if (height() > width() / 2) {
+    QRectF area = Inside();
+    if (tall) {
         PaintTall(painter, area);
         return;
     }
-    if (width() >= kFaceFrom) {
-        PaintFace(painter, {area.topLeft(), QSizeF(area.height(), area.height())});
-        area.setLeft(area.left() + area.height() + kPadding);
+    if (still.face) {
+        PaintHands(painter, Face());
+        area.setLeft(Face().right() + kPadding);
     }
     PaintFlat(painter, area);
 }

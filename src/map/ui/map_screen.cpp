@@ -134,6 +134,7 @@ void CMapScreen::Select(CityIndex city) {
     m_selected = city;
     MarkCities();
     ShowTexts();
+    m_still.Forget();
     update();
 }
 
@@ -164,10 +165,9 @@ void CMapScreen::DrawNight() {
     setAccessibleDescription(m_view.HasImage() ? QString() : ToQString(missing));
 }
 
-void CMapScreen::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
+/// Ground, map, shadow and marks: the same from second to second.
+void CMapScreen::PaintStill(QPainter& painter) {
     m_look.PaintBackground(painter, rect(), LookPicture::kMap);
-    if (std::exchange(m_redraw, false)) DrawNight();
     m_view.Paint(painter, accessibleDescription());
     if (!m_showFocus) return;
     // Two lines: one of them is seen on day, night and ice.
@@ -176,6 +176,15 @@ void CMapScreen::paintEvent(QPaintEvent* /*event*/) {
         painter.setPen(QPen(colour, width));
         painter.drawRect(QRectF(m_layout.picture).adjusted(2.5, 2.5, -2.5, -2.5));
     }
+}
+
+void CMapScreen::paintEvent(QPaintEvent* /*event*/) {
+    if (std::exchange(m_redraw, false)) {
+        DrawNight();
+        m_still.Forget();
+    }
+    QPainter(this).drawPixmap(
+        0, 0, m_still.Of(m_showFocus, size(), devicePixelRatioF(), [this](QPainter& painter) { PaintStill(painter); }));
 }
 
 void CMapScreen::resizeEvent(QResizeEvent* /*event*/) {

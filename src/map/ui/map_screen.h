@@ -14,6 +14,7 @@
 #include "shell/clock_text.h"
 #include "shell/registry_store.h"
 #include "uikit/screen.h"
+#include "uikit/still_picture.h"
 
 namespace rlx {
 
@@ -64,6 +65,7 @@ private:
     void SelectNeighbour(int by);
     void MarkCities();
     void DrawNight();
+    void PaintStill(QPainter& painter);
     std::vector<CityIndex> ClockCities() const;
 
     CCityDatabase& m_cities;
@@ -86,6 +88,7 @@ private:
 
     MapLayout m_layout;
     CMapView m_view;
+    CStillPicture<bool> m_still;  ///< ground and map; depends on whether the focus shows
     CTimeControls* m_time;
     CMapClock* m_clockButton;
     CRiseSetPanel* m_panel;

@@ -46,6 +46,7 @@ void CRiseSetPanel::Show(const QString& city, const CitySun& day, const CitySun&
     for (const Row& row : m_rows)
         all += QStringLiteral("\n") + row.label + QStringLiteral(" ") + row.today + QStringLiteral(" ") + row.tomorrow;
     if (!m_note.isEmpty()) all += QStringLiteral("\n") + m_note;
+    if (all == accessibleDescription()) return;
     setAccessibleDescription(all);
     setToolTip(all);
     update();

@@ -11,8 +11,10 @@ void CRecordIndex::CBuilder::Add(RecordId record, std::string_view key) {
 
 CRecordIndex CRecordIndex::CBuilder::Finish() {
     const auto key = [this](const Entry& e) { return std::string_view(m_keys).substr(e.keyAt, e.keySize); };
-    std::stable_sort(m_entries.begin(), m_entries.end(),
-                     [&key](const Entry& a, const Entry& b) { return key(a) < key(b); });
+    const auto before = [&key](const Entry& a, const Entry& b) { return key(a) < key(b); };
+    // Most databases are made in their order, and asking is quicker than sorting.
+    if (!std::is_sorted(m_entries.begin(), m_entries.end(), before))
+        std::stable_sort(m_entries.begin(), m_entries.end(), before);
     CRecordIndex index;
     index.m_order.reserve(m_entries.size());
     for (const Entry& entry : m_entries)
