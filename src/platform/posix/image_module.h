@@ -7,9 +7,9 @@
 
 namespace rlx {
 
-/// Pictures by "rlx_pictures.so", which is loaded at the first picture: most runs of a program without a window see none,
-/// and its libraries take longer to load than some answers take. The module stays loaded to the end. One thread at a
-/// time.
+/// Pictures by "rlx_pictures.so", which is loaded at the first picture: most runs of a program without a window see
+/// none, and its libraries take longer to load than some answers take. The module stays loaded to the end. One thread
+/// at a time.
 class CImageModule : public IImageCodec {
 public:
     /// The module is looked for in `programFolder`, then in its neighbour "lib/roamlytix".
