@@ -282,13 +282,17 @@ void CApplication::ShowAbout() {
                   BoxIcon::kInformation, BoxButtons::kOk});
 }
 
+void CApplication::AskAtStart() {
+    const QString title = ToQString(m_resources.Text(kTextChooseHomeCity));
+    const auto choose = [&](CityIndex proposed) { return ChooseCity(m_window.get(), title, proposed); };
+    if (const auto home = m_cityCommands->AskHomeCity(choose)) m_clocksScreen->StoreCity(0, *home);
+    m_cityCommands->TellOldRules();
+}
+
 void CApplication::Show() {
     m_window->AskFirst([this] {
-        if (!MayAsk()) return;
-        const QString title = ToQString(m_resources.Text(kTextChooseHomeCity));
-        const auto choose = [&](CityIndex proposed) { return ChooseCity(m_window.get(), title, proposed); };
-        if (const auto home = m_cityCommands->AskHomeCity(choose)) m_clocksScreen->StoreCity(0, *home);
-        m_cityCommands->TellOldRules();
+        if (MayAsk()) AskAtStart();
+        m_reminders->TellMissed();
     });
     if (m_options.fullScreen) {
         m_window->showFullScreen();

@@ -73,6 +73,7 @@ private:
     void UpdateWeather();
     void MakeReminders();
     void MakeCommands();
+    void AskAtStart();
     void RestoreScreen();
     void ApplyLook();
     void UpdateChecks();

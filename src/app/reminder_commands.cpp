@@ -30,13 +30,11 @@ CReminderCommands::CReminderCommands(const ReminderPorts& ports, CReminderDuty& 
 
 void CReminderCommands::Start() {
     Aim();
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            m_duty.Post().TellMissed(m_ports.boxes);
-            Check();
-        },
-        Qt::QueuedConnection);
+}
+
+void CReminderCommands::TellMissed() {
+    m_duty.Post().TellMissed(m_ports.boxes);
+    Check();
 }
 
 /// The next wait begins before a box may stand in the way.

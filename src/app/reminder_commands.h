@@ -18,8 +18,11 @@ class CReminderCommands : public QObject {
 public:
     CReminderCommands(const ReminderPorts& ports, CReminderDuty& duty, CClocksScreen& screen, QWidget& window);
 
-    /// Tells of what was missed, then waits for the others. Comes once the window is shown.
+    /// Waits for the reminders from now on.
     void Start();
+
+    /// Tells of what was missed while the program did not run. Comes once the window is shown.
+    void TellMissed();
 
     /// The dialog with the reminders; with a city it begins with a new one for that city.
     void Open(std::optional<CityIndex> city);
