@@ -95,7 +95,7 @@ void CColourField::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void CColourField::mousePressEvent(QMouseEvent* event) {
-    m_onStrip = event->position().y() >= Strip().top() - kGap / 2;
+    m_onStrip = event->position().y() >= Strip().top() - kGap / 2.0;
     Point(event->position().toPoint());
 }
 
