@@ -144,7 +144,9 @@ TEST_F(PackingOrganizerTest, SavesOnlyWhenAskedTo) {
 
     ASSERT_TRUE(m_pack.AddItem(u"tent"));
     EXPECT_TRUE(m_pack.Leave());
-    EXPECT_EQ(m_boxes.shown, std::vector{(MessageBox{u"{32948}", u"{41015}", BoxIcon::kQuestion, BoxButtons::kYesNo})});
+    EXPECT_EQ(
+        m_boxes.shown,
+        std::vector{(MessageBox{u"{32948}", u"{41015}", BoxIcon::kQuestion, BoxButtons::kYesNo, BoxAnswer::kYes})});
     Told();
     EXPECT_EQ(m_folder.files.at(kFile), "");
     EXPECT_FALSE(m_pack.IsChanged());
