@@ -121,19 +121,5 @@ TEST(NightShadow, RowsDarkenWhatStripsWould) {
     }
 }
 
-TEST(NightShadow, ColoursAreMasks) {
-    EXPECT_EQ(PixelOfColour(0x0000FF), 0xFFFF0000U);
-    EXPECT_EQ(PixelOfColour(0xFF12AB34), 0xFF34AB12U);
-    CBitmap map(4, 2, 0xFF88FF77U);
-    const std::vector<NightBand> bands = {{0, 1}, {0, 2}};
-    Shade(map, {4, 2, 1}, bands, 1, 0xFFFFFF);
-    EXPECT_EQ(map, CBitmap(4, 2, 0xFF88FF77U));
-    Shade(map, {4, 2, 1}, bands, 1, 0);
-    EXPECT_EQ(map.Row(0)[0], 0xFF88FF77U);
-    EXPECT_EQ(map.Row(0)[1], 0xFF000000U);
-    EXPECT_EQ(map.Row(1)[1], 0xFF88FF77U);
-    EXPECT_EQ(map.Row(1)[2], 0xFF000000U);
-}
-
 }  // namespace
 }  // namespace rlx

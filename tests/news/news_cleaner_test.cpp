@@ -28,7 +28,6 @@ TEST(NewsCleaner, LeavesTextLinksAndTables) {
          "\n<p>café &amp; 2 &lt; 3<br></p>"},
         {"<P ALIGN='center' onclick=x()>a<p style='color:red'>b", "<p align=\"center\">a</p><p>b</p>"},
         {"<a href='http://a/?b&amp;c=\"d\"' target=_top>x</A>", "<a href=\"http://a/?b&amp;c=&quot;d&quot;\">x</a>"},
-        {"<a href=http://a/b/>x", "<a href=\"http://a/b/\">x</a>"},
         {"<script>if (a<b) '</p>'</script>x<style>p{}</STYLE ><!-- <p> -->y<!doctype z>", "xy"},
         {"<img src=x alt='Map of <b>'>.<img src=y alt=' '>", "[Map of &lt;b>]."},
         {"<b><i>x</b>y</i>z", "<b><i>x</i></b>yz"},
@@ -38,9 +37,7 @@ TEST(NewsCleaner, LeavesTextLinksAndTables) {
          "<table border=\"1\"><tr><td width=\"50%\">a</td><td>b</td></tr><tr><th>c</th></tr></table>d"},
         {"<td>a<tr>b</table>c", "abc"},
         {"<b><table><tr><td>x</b></div>y", "<b><table><tr><td>xy</td></tr></table></b>"},
-        {"a<", "a&lt;"},
         {"<p title='never ends>x", "<p></p>"},
-        {"<blink><marquee>x</blink>", "x"},
         {std::string("a\0\x01"
                      "b",
                      4),

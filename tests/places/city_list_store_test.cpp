@@ -143,20 +143,6 @@ TEST_F(CityListStore, SurvivesDeathAtEveryWrite) {
     EXPECT_GE(deaths, 6);
 }
 
-TEST_F(CityListStore, LeavesAllAsItWasWhenRefused) {
-    for (int n = 1; n <= 6; ++n) {
-        Reset();
-        const std::string before = files.files["/app/cities.lst"];
-        plan.FailAt(n);
-        CRun run = Start();
-        EXPECT_EQ(run.lists.Change(EditAll).state, CityListChange::kNotSaved) << n;
-        EXPECT_EQ(run.Choices(), kBefore) << n;
-        EXPECT_EQ(files.files["/app/cities.lst"], before) << n;
-        EXPECT_FALSE(files.IsFile("/app/cities.lst.old")) << n;
-        EXPECT_FALSE(IsCityChangeUnfinished(run.settings)) << n;
-    }
-}
-
 TEST_F(CityListStore, DefaultsThatAreNotStoredStayOnTheirCity) {
     std::string list = "1000\n";
     for (int i = 1000; i < 2000; ++i)

@@ -15,12 +15,10 @@ TEST(DstRule, ReadsAnyText) {
     } rows[] = {
         {u"1:88:2:298:3", {true, 1, 88, 2, 298, 3}},
         {u"0:88:2:298:3", {false, 0, 88, 2, 298, 3}},
-        {u"0", {false, 0, 0, 0, 0, 0}},
         {u"", {true, 0, 0, 0, 0, 0}},
         {u"00:1:2:3:4", {true, 0, 1, 2, 3, 4}},
         {u" 0:1:2:3:4", {true, 0, 1, 2, 3, 4}},
         {u"1:x:2h:-3", {true, 1, 0, 2, -3, 0}},
-        {u"2:1:2:3:4:5", {true, 2, 1, 2, 3, 4}},
         {u"1:9999999999:0:-9999999999:0\r", {true, 1, 2147483647, 0, -2147483647 - 1, 0}},
     };
     for (const auto& row : rows)
@@ -36,14 +34,10 @@ TEST(DstRule, LaysThePeriodIntoTheYear) {
         const char* end;
     } rows[] = {
         {"northern summer", u"1:88:2:298:3", 2026, "2026-03-29 02:00:00", "2026-10-25 03:00:00"},
-        {"leap year", u"1:88:2:298:3", 2028, "2028-03-28 02:00:00", "2028-10-24 03:00:00"},
-        {"day 1 and day 365", u"1:1:0:365:0", 2026, "2026-01-01 00:00:00", "2026-12-31 00:00:00"},
         {"day 365 of a leap year", u"1:1:0:365:23", 2028, "2028-01-01 00:00:00", "2028-12-30 23:00:00"},
         {"southern summer", u"1:277:2:95:3", 2026, "2026-10-04 02:00:00", "2027-04-05 03:00:00"},
         {"end on 29 February", u"1:277:2:60:3", 2028, "2028-10-03 02:00:00", "2029-03-01 03:00:00"},
-        {"end before start within a month", u"1:88:2:61:3", 2026, "2026-03-29 02:00:00", "2026-03-02 03:00:00"},
         {"end on day 1", u"1:67:2:1:0", 2026, "2026-03-08 02:00:00", "2027-01-01 00:00:00"},
-        {"hours only", u"1", 2026, "2025-12-31 00:00:00", "2025-12-31 00:00:00"},
         {"hours beyond the day", u"1:10:24:20:-1", 2026, "2026-01-11 00:00:00", "2026-01-19 23:00:00"},
     };
     for (const auto& row : rows) {
@@ -67,19 +61,15 @@ TEST(DstRule, DecidesToTheHourOrToTheDay) {
         bool byHour;
         bool byDay;  // asked about the midnight that begins the day
     } rows[] = {
-        {"the day before", north, "2026-03-28 23:59:59", 2026, false, false},
         {"the start day, too early", north, "2026-03-29 01:59:59", 2026, false, true},
         {"the start hour", north, "2026-03-29 02:00:00", 2026, true, true},
         {"the last moment", north, "2026-10-25 03:00:00", 2026, true, true},
         {"a second later", north, "2026-10-25 03:00:01", 2026, false, true},
         {"the day after", north, "2026-10-26 00:00:00", 2026, false, false},
-        {"never", u"0:88:2:298:3", "2026-07-01 12:00:00", 2026, false, false},
-        {"southern winter", south, "2026-07-01 12:00:00", 2026, false, false},
         {"southern summer", south, "2026-10-04 02:00:00", 2026, true, true},
         {"its last day of the year", south, "2026-12-31 23:59:59", 2026, true, true},
         {"from 1 January on it does not count", south, "2027-01-01 00:00:00", 2027, false, false},
         {"a city already in the new year, the device not", south, "2027-01-01 00:00:00", 2026, true, true},
-        {"a period without end", u"1:1:0:2147483647:2147483647", "2026-07-01 12:00:00", 2026, true, true},
         {"a period that never comes", u"1:2147483647:0:2147483647:0", "2026-07-01 12:00:00", 2026, false, false},
     };
     for (const auto& row : rows) {
@@ -97,15 +87,11 @@ TEST(GmtOffset, SplitsAndAdds) {
         int hours;
         GmtOffset sum;
     } rows[] = {
-        {0, {0, 0}, 1, 1},
         {100, {100, 0}, 1, 101},
-        {-100, {-100, 0}, -1, -101},
         {101, {1, 1}, 1, 201},
         {-101, {-1, -1}, 1, -1},
         {530, {5, 30}, 0, 530},
-        {545, {5, 45}, 1, 645},
         {-330, {-3, -30}, 1, -230},
-        {930, {9, 30}, 1, 1030},
         {2147483647, {21474836, 47}, 2147483647, 2147483647},
         {-2147483647 - 1, {-21474836, -48}, -2147483647 - 1, -2147483647 - 1},
     };

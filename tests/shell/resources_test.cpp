@@ -3,13 +3,9 @@
 #include <set>
 
 #include "base/text.h"
-#include "feeds/text_ids.h"
 #include "shell/text_ids.h"
 #include "support/numbered_names.h"
-#include "tools/clothing/text_ids.h"
 #include "tools/converter/text_ids.h"
-#include "tools/packing/text_ids.h"
-#include "tools/tiptax/text_ids.h"
 #include "weather/text_ids.h"
 
 namespace rlx {
@@ -34,17 +30,9 @@ TEST(ResourcesTest, TextsAreReadUnitByUnit) {
     } rows[] = {
         {"leading and trailing blank", kTextUnitAfter, u" > Unit?"},
         {"ends with a blank", kTextDeleteBefore, u"Delete < "},
-        {"blank lines", kTextCannotUpdate, u"Cannot update.\n\nPlease check your Internet connection."},
-        {"ends with line ends", kTextLastUpdate, u"Last update\n"},
-        {"spelled as agreed", kTextSyncFailed, u"Syncronisation failed"},
-        {"per cent signs", kTextRateRange, u"Value must be between 0% and 100%"},
-        {"apostrophe and brackets", kTextCannotDeleteAll, u"Can't delete <All> category!"},
-        {"quotation marks", kTextFileNotRead, u"\"%1\" could not be read."},
-        {"doubled ampersand", kTextSizesBlouses, u"Women's blouses && sweaters"},
         {"beyond ASCII", kTextDegreesCelsius, u"%1 °C"},
         {"last of its block", 32927, u""},
         {"no such block", 39000, u""},
-        {"negative", -1, u""},
         {"beyond the table", 65536 + kTextError, u""},
     };
     const CResources resources;

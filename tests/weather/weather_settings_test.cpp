@@ -55,9 +55,7 @@ TEST(IconSet, IsTheUsersElseTheSkinsElseTheDefault) {
     } rows[] = {
         {"nothing chosen", u"", u"default", "/app/wiconset"},
         {"skin's own", u"", u"\\icons", "/app/skins/Night/icons"},
-        {"skin's is gone", u"", u"\\gone", "/app/wiconset"},
         {"chosen", u"\\wiconsets\\Line", u"\\icons", "/app/wiconsets/Line"},
-        {"default chosen", u"default", u"\\icons", "/app/wiconset"},
         {"chosen one is gone", u"\\wiconsets\\Gone", u"\\icons", "/app/skins/Night/icons"},
         {"out of the folder", u"..\\secret", u"\\..\\..\\..\\secret", "/app/wiconset"},
     };

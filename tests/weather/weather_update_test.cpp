@@ -90,12 +90,6 @@ TEST_F(WeatherUpdate, OneBadPlaceKeepsNobodyElseFromWeather) {
                            u"The forecast received for Rome, Basel cannot be read. The last good one is kept."}));
 }
 
-TEST_F(WeatherUpdate, SaysWhenNothingCouldBeSaved) {
-    m_objects.Failures().FailAll();
-    EXPECT_EQ(Run({u"Oslo:Norway"}), Results{PlaceUpdate::kNotSaved});
-    EXPECT_EQ(Shown(), (std::vector<std::u16string>{u"The forecast for Oslo could not be saved."}));
-}
-
 TEST_F(WeatherUpdate, CancellingIsNoFailure) {
     m_outcomes[u"Oslo"] = FeedOutcome::kCancelled;
     m_observer.cancelAfter = 2;
