@@ -40,18 +40,13 @@ class Feeds(FeedTest):
         self.assertEqual([cookie for _, cookie in self.server.requests], [None, "JSESSIONID=s1"])
 
     def test_update_that_fails_keeps_the_rates(self):
-        rows = [
-            ("offline", "1005", b"EUR_9#", ["--yes", "--offline"], [CANNOT_UPDATE, SYNC_FAILED], 0),
-            ("refused by the user", "1005", b"EUR_9#", ["--no"], [CONFIRMATION, CANNOT_UPDATE, SYNC_FAILED], 0),
-        ]
-        for name, code, page, options, messages, requests in rows:
-            with self.subTest(name):
-                self.server.requests.clear()
-                self.serve(page, code)
-                answer = self.answer(*options, "rates", "update", status=1, messages=messages)
-                self.assertEqual(self.rates(answer)["EUR"], "0.8")
-                self.assertEqual(answer["updated"], "1/7/2026")
-                self.assertEqual(len(self.server.requests), requests)
+        self.serve(b"EUR_9#")
+        rows = [(["--yes", "--offline"], [CANNOT_UPDATE, SYNC_FAILED]),
+                (["--no"], [CONFIRMATION, CANNOT_UPDATE, SYNC_FAILED])]
+        for options, messages in rows:
+            answer = self.answer(*options, "rates", "update", status=1, messages=messages)
+            self.assertEqual((self.rates(answer)["EUR"], answer["updated"]), ("0.8", "1/7/2026"))
+            self.assertEqual(self.server.requests, [])
 
     def test_no_address(self):
         (self.home / "adrs.cfg").unlink()

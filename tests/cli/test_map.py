@@ -90,11 +90,9 @@ class Map(RlxTest):
         out = self.folder / "night.png"
         rows = (  # name, words, exit status, what the message names
             ("no folder", ("--size", "8x4", "-o", "/nowhere/at/all.png", "--skin", "SKIN"), 1, "/nowhere/at/all.png"),
-            ("no skin", ("--skin", "/none.skn", "-o", str(out)), 1, "/none.skn"),
             ("broken image gives no size", ("--skin", "SKIN", "-o", str(out)), 1, "map.png"),
             ("many pixels", ("--size", "16384x16384", "-o", str(out)), 2, "16384x16384"),
             ("margins meet", ("--size", "8x4", "--margin", "4", "-o", str(out)), 2, '"4"'),
-            ("no instant", ("--size", "8x4", "--ut", "2026-02-30T00:00:00", "-o", str(out)), 2, "2026-02-30"),
         )
         skin = self.skin(0)
         (self.home / "map.png").write_bytes(b"\x89PNG\r\n\x1a\nbroken")

@@ -40,11 +40,7 @@ class Skins(RlxTest):
 
     def test_checks(self):
         self.assertEqual(self.answer("skin", "check", self.file), {"valid": True, "faults": []})
-        self.file.write_bytes(self.text.replace(b"CMD", b"XXX").replace(b"FBBC@", b"FBBC@-"))
-        answer = self.answer("skin", "check", self.file)
-        self.assertEqual((answer["valid"], len(answer["faults"])), (False, 3))
-        self.file.unlink()
-        self.assertEqual(self.answer("skin", "check", self.file),
+        self.assertEqual(self.answer("skin", "check", self.home / "none.skn"),
                          {"valid": False, "faults": ["The skin file cannot be opened."]})
 
     def test_list_names_the_invalid_with_their_reasons(self):

@@ -120,13 +120,6 @@ TEST_F(ClocksScreen, MenuMakesAClockTheHomeClock) {
     EXPECT_EQ(Stored(names::kClocks[0]), 0U);
 }
 
-TEST_F(ClocksScreen, TipIsShownOnce) {
-    device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kClocksTip, 0);
-    screen.Entered();
-    screen.Entered();
-    EXPECT_EQ(device.boxes.shown.size(), 1U);
-}
-
 TEST(ClocksLayout, CardsNeverOverlapNorLeaveTheScreen) {
     const QSizeF sizes[] = {{240, 250}, {320, 210},  {360, 640},  {480, 560},
                             {800, 450}, {1280, 770}, {240, 1200}, {1800, 240}};

@@ -113,18 +113,15 @@ TEST_F(MapScreen, ScrubberMovesClockPanelAndNightAndNowReturns) {
     EXPECT_TRUE(IsBlack(sahara));
 }
 
-TEST_F(MapScreen, MapClockTwelveHoursAndTipAreSettings) {
+TEST_F(MapScreen, MapClockAndTwelveHoursAreSettings) {
     device.settings.WriteDword(RootOf(keys::kMap), keys::kMap, names::kMapClock, 2);
     device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kTwelveHour, 1);
-    device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kMapTip, 0);
+
     screen.Refresh();
     Show();
     EXPECT_EQ(Clock(), "New York, 3:10:05 PM, 22/11/2026 Sun");
     EXPECT_NE(Panel().find("Sunrise 8:1"), std::string::npos) << Panel();
     EXPECT_NE(Panel().find(" AM"), std::string::npos);
-    screen.Entered();
-    screen.Entered();
-    EXPECT_EQ(device.boxes.shown.size(), 1U);
 }
 
 TEST_F(MapScreen, BrokenImageLeavesAPlainMapAndSaysSo) {
