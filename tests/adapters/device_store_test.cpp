@@ -1,11 +1,8 @@
 #include "platform/sqlite/device_store.h"
 
 #include <sqlite3.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <csignal>
 
 #include "platform/fake/fixed_clock.h"
 #include "support/temp_folder.h"
@@ -17,16 +14,6 @@ namespace fs = std::filesystem;
 
 constexpr RegistryRoot kMachine = RegistryRoot::kLocalMachine;
 constexpr PropertyId kName = 101;
-
-/// Runs `work` in a process of its own and returns its exit status, or minus the signal that ended it.
-template <typename Work>
-int InProcess(Work work) {
-    const pid_t child = fork();
-    if (child == 0) _exit(work());
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-}
 
 std::size_t BuildOnce(IObjectStore& objects, int records) {
     const auto build = [&] {
@@ -161,31 +148,6 @@ TEST_F(DeviceStore, WhereNoFileCanBeMadeTheRunGoesOnInMemory) {
         EXPECT_TRUE(opened.store->Registry().Set(kMachine, u"K", u"v", {RegistryType::kBinary, "x"}));
         EXPECT_EQ(Setting(*opened.store), "x");
     }
-}
-
-TEST_F(DeviceStore, AReadOnlyFileCanBeReadAndRefusesWrites) {
-    MakeStore();
-    fs::permissions(m_folder.Path(), fs::perms::all);
-    fs::permissions(File(), fs::perms(0444));
-    // Permissions do not bind the superuser.
-    const auto look = [&] {
-        if (geteuid() == 0 && seteuid(65534) != 0) return 100;
-        const OpenedStore opened = Open();
-        if (opened.outcome != StoreOutcome::kReadOnly) return 1;
-        if (Setting(*opened.store) != "kept") return 2;
-        const auto db = opened.store->Objects().Open(u"db");
-        if (db->Count() != 500 || !db->SeekPosition(kName, 499)) return 3;
-        if (opened.store->Registry().Set(kMachine, u"K", u"v", {})) return 4;
-        if (opened.store->Registry().Remove(kMachine, u"K", u"v")) return 5;
-        // Databases go on in memory, so that what the file lacks can be made.
-        return opened.store->Objects().Create(u"other", 1, {kName}) && db->Add({{kName, u"x"}}) ? 0 : 6;
-    };
-    EXPECT_EQ(InProcess(look), 0);
-    EXPECT_EQ(Setting(*Open().store), "kept");
-    // The same where nothing can be made beside the file.
-    fs::permissions(m_folder.Path(), fs::perms(0555));
-    EXPECT_EQ(InProcess(look), 0);
-    fs::permissions(m_folder.Path(), fs::perms::all);
 }
 
 TEST_F(DeviceStore, TwoProcessesThatMeetADamagedFileMoveItOnce) {

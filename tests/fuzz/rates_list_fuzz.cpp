@@ -4,7 +4,7 @@
 
 // Any bytes as "currs.lst".
 void Try(std::string_view bytes) {
-    rlx::CMemoryStream stream(std::string(bytes));
+    rlx::CMemoryStream stream{std::string(bytes)};
     const rlx::CurrencyList list = rlx::ReadRatesList(stream);
     FailIf(list.size() > bytes.size() || list.size() > rlx::kMaxListEntries);
     for (const rlx::CurrencyEntry& entry : list)

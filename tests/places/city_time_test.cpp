@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "places/cities_fixture.h"
+#include "places/dst_rule.h"
 
 namespace rlx {
 namespace {
@@ -50,6 +51,110 @@ TEST(CityTime, SplitsTheBiasOfTheDevice) {
     };
     for (const auto& [bias, reference] : rows)
         EXPECT_EQ(ReferenceOfBias(bias), reference) << bias;
+}
+
+using test::At;
+
+TEST(DstRule, ReadsAnyText) {
+    const struct {
+        const char16_t* text;
+        DstRule rule;
+    } rows[] = {
+        {u"1:88:2:298:3", {true, 1, 88, 2, 298, 3}},
+        {u"0:88:2:298:3", {false, 0, 88, 2, 298, 3}},
+        {u"", {true, 0, 0, 0, 0, 0}},
+        {u"00:1:2:3:4", {true, 0, 1, 2, 3, 4}},
+        {u" 0:1:2:3:4", {true, 0, 1, 2, 3, 4}},
+        {u"1:x:2h:-3", {true, 1, 0, 2, -3, 0}},
+        {u"1:9999999999:0:-9999999999:0\r", {true, 1, 2147483647, 0, -2147483647 - 1, 0}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(ParseDstRule(row.text), row.rule) << ToUtf8(row.text);
+}
+
+TEST(DstRule, LaysThePeriodIntoTheYear) {
+    const struct {
+        const char* name;
+        const char16_t* rule;
+        int year;
+        const char* start;
+        const char* end;
+    } rows[] = {
+        {"northern summer", u"1:88:2:298:3", 2026, "2026-03-29 02:00:00", "2026-10-25 03:00:00"},
+        {"day 365 of a leap year", u"1:1:0:365:23", 2028, "2028-01-01 00:00:00", "2028-12-30 23:00:00"},
+        {"southern summer", u"1:277:2:95:3", 2026, "2026-10-04 02:00:00", "2027-04-05 03:00:00"},
+        {"end on 29 February", u"1:277:2:60:3", 2028, "2028-10-03 02:00:00", "2029-03-01 03:00:00"},
+        {"end on day 1", u"1:67:2:1:0", 2026, "2026-03-08 02:00:00", "2027-01-01 00:00:00"},
+        {"hours beyond the day", u"1:10:24:20:-1", 2026, "2026-01-11 00:00:00", "2026-01-19 23:00:00"},
+    };
+    for (const auto& row : rows) {
+        const DstPeriod period = PeriodOfYear(ParseDstRule(row.rule), row.year, DstPrecision::kHour);
+        EXPECT_EQ(period.start, At(row.start)) << row.name;
+        EXPECT_EQ(period.end, At(row.end)) << row.name;
+    }
+    const DstPeriod days = PeriodOfYear(ParseDstRule(u"1:277:2:95:3"), 2026, DstPrecision::kDay);
+    EXPECT_EQ(days.start, At("2026-10-04 00:00:00"));
+    EXPECT_EQ(days.end, At("2027-04-05 00:00:00"));
+}
+
+TEST(DstRule, DecidesToTheHourOrToTheDay) {
+    const char16_t* north = u"1:88:2:298:3";
+    const char16_t* south = u"1:277:2:95:3";
+    const struct {
+        const char* name;
+        const char16_t* rule;
+        const char* now;
+        int year;
+        bool byHour;
+        bool byDay;  // asked about the midnight that begins the day
+    } rows[] = {
+        {"the start day, too early", north, "2026-03-29 01:59:59", 2026, false, true},
+        {"the start hour", north, "2026-03-29 02:00:00", 2026, true, true},
+        {"the last moment", north, "2026-10-25 03:00:00", 2026, true, true},
+        {"a second later", north, "2026-10-25 03:00:01", 2026, false, true},
+        {"the day after", north, "2026-10-26 00:00:00", 2026, false, false},
+        {"southern summer", south, "2026-10-04 02:00:00", 2026, true, true},
+        {"its last day of the year", south, "2026-12-31 23:59:59", 2026, true, true},
+        {"from 1 January on it does not count", south, "2027-01-01 00:00:00", 2027, false, false},
+        {"a city already in the new year, the device not", south, "2027-01-01 00:00:00", 2026, true, true},
+        {"a period that never comes", u"1:2147483647:0:2147483647:0", "2026-07-01 12:00:00", 2026, false, false},
+    };
+    for (const auto& row : rows) {
+        const DstRule rule = ParseDstRule(row.rule);
+        const DateTime now = At(row.now);
+        EXPECT_EQ(IsDstActive(rule, now, row.year, DstPrecision::kHour), row.byHour) << row.name;
+        EXPECT_EQ(IsDstActive(rule, {now.date, 0, 0, 0, 0}, row.year, DstPrecision::kDay), row.byDay) << row.name;
+    }
+}
+
+TEST(GmtOffset, SplitsAndAdds) {
+    const struct {
+        GmtOffset offset;
+        ClockOffset split;
+        int hours;
+        GmtOffset sum;
+    } rows[] = {
+        {100, {100, 0}, 1, 101},
+        {101, {1, 1}, 1, 201},
+        {-101, {-1, -1}, 1, -1},
+        {530, {5, 30}, 0, 530},
+        {-330, {-3, -30}, 1, -230},
+        {2147483647, {21474836, 47}, 2147483647, 2147483647},
+        {-2147483647 - 1, {-21474836, -48}, -2147483647 - 1, -2147483647 - 1},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(SplitGmt(row.offset), row.split) << row.offset;
+        EXPECT_EQ(AddDaylightHours(row.offset, row.hours), row.sum) << row.offset;
+    }
+}
+
+TEST(GmtOffset, IsShownByItsCharacters) {
+    const std::pair<const char16_t*, const char16_t*> rows[] = {
+        {u"5", u"5h"},       {u"-5", u"-5h"}, {u"10", u"10h"},   {u"-10", u"-h10"},   {u"530", u"5h30"},
+        {u"-330", u"-3h30"}, {u"", u"h"},     {u"100", u"1h00"}, {u"1030", u"10h30"}, {u"+10", u"+h10"},
+    };
+    for (const auto& [stored, shown] : rows)
+        EXPECT_EQ(GmtText(stored), shown);
 }
 
 }  // namespace

@@ -84,30 +84,5 @@ TEST_F(CityTimes, HomeClockShowsTheDeviceUnlessSynchronised) {
     }
 }
 
-TEST_F(CityTimes, ReadsAllFiveClocks) {
-    CCityTimes times = Times({kLondon, {kSydney, kParis, kNobody, kKolkata}, 0});
-    const auto readings = times.AllClocks(At("2026-02-28 20:05:09"));
-    const struct {
-        const char16_t* name;
-        const char* face;
-    } rows[] = {{u"London", "0 20:05:09 28/02/2026    Sat"},
-                {u"Sydney", "10 06:05:09 01/03 Sun"},
-                {u"Paris", "1 21:05:09 28/02 Sat"},
-                {u"", "0 20:05:09 28/02 Sat"},
-                {u"Kolkata", "530 01:35:09 01/03 Sun"}};
-    for (std::size_t slot = 0; slot < readings.size(); ++slot) {
-        EXPECT_EQ(readings[slot].slot, static_cast<int>(slot));
-        EXPECT_EQ(readings[slot].name, rows[slot].name);
-        EXPECT_EQ(Face(readings[slot]), rows[slot].face);
-    }
-    const ClockReading& sydney = readings[1];
-    EXPECT_EQ(sydney.cityIndex, kSydney);
-    EXPECT_EQ(sydney.longDateText, u"01/03/2026    Sun");
-    EXPECT_EQ(sydney.hour, 6);
-    EXPECT_EQ(sydney.day, 1);
-    EXPECT_EQ(sydney.month, 3);
-    EXPECT_EQ(sydney.year, 2026);
-}
-
 }  // namespace
 }  // namespace rlx

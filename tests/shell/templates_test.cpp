@@ -95,15 +95,6 @@ TEST(DialogTest, EveryControlStandsInADialogThatHoldsIt) {
     }
 }
 
-TEST(DialogTest, ExtendedFormIsRead) {
-    const auto dialog = CResources().Dialog(kDialogLanguage);
-    ASSERT_TRUE(dialog && dialog->controls.size() == 3);
-    EXPECT_TRUE(dialog->font == u"Arial" && dialog->fontSize == 8 && dialog->width == 140);
-    EXPECT_EQ(dialog->controls[0].text, u"Choose a language:");
-    EXPECT_EQ(dialog->controls[1].kind, ControlKind::kDropDownList);
-    EXPECT_TRUE(dialog->controls[2].id == kControlOk && dialog->controls[2].tabStop);
-}
-
 TEST(DialogTest, PlainFormIsRead) {
     Builder plain;
     plain.U32(0x80C80040).U32(0).U16(2).U16(0).U16(0).U16(100).U16(50);

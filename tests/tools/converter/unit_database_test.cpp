@@ -117,24 +117,5 @@ TEST(UnitDatabase, IsNotSeededTwiceByTwoProcesses) {
     EXPECT_EQ(units.ReadAll().size(), 351U);
 }
 
-TEST(UnitTables, TemperaturesTakeFiveRowsWhateverTheyAre) {
-    using Sizes = std::vector<std::size_t>;
-    const std::pair<std::u16string, Sizes> kRows[] = {
-        {u"0011122344444556", {2, 3, 2, 1, 5, 2, 1}},
-        {u"01234444556", {1, 1, 1, 1, 5, 1, 1}},    // takes a "5" for a fifth
-        {u"0123444444556", {1, 1, 1, 1, 5, 0, 0}},  // the sixth "4" blocks
-        {u"", {0, 0, 0, 0, 0, 0, 0}},
-        {std::u16string(151, u'0') + u"1", {150, 1, 0, 0, 5, 0, 0}},
-    };
-    for (const auto& [codes, sizes] : kRows) {
-        std::vector<UnitRecord> rows;
-        for (const char16_t code : codes)
-            rows.push_back({std::u16string(1, code), u"unit", u"1"});
-        const UnitTables tables = TablesFromRows(rows);
-        for (std::size_t category = 0; category < kCategoryCount; ++category)
-            EXPECT_EQ(tables[category].size(), sizes[category]) << ToUtf8(codes) << " " << category;
-    }
-}
-
 }  // namespace
 }  // namespace rlx

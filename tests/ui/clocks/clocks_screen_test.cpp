@@ -6,7 +6,6 @@
 
 #include "clocks/ui/clocks_layout.h"
 #include "platform/image/image_codec.h"
-#include "support/apart.h"
 #include "support/places_on_device.h"
 
 namespace rlx {
@@ -118,22 +117,6 @@ TEST_F(ClocksScreen, MenuMakesAClockTheHomeClock) {
     menu->close();
     EXPECT_EQ(Stored(names::kHomeClock), 1U);
     EXPECT_EQ(Stored(names::kClocks[0]), 0U);
-}
-
-TEST(ClocksLayout, CardsNeverOverlapNorLeaveTheScreen) {
-    const QSizeF sizes[] = {{240, 250}, {320, 210},  {360, 640},  {480, 560},
-                            {800, 450}, {1280, 770}, {240, 1200}, {1800, 240}};
-    for (const QSizeF& size : sizes) {
-        const QRectF area(QPointF(0, 0), size);
-        const ClocksLayout layout = LayOutClocks(area);
-        std::vector<QRectF> cards;
-        for (const auto& clock : layout) {
-            cards.push_back(clock.card);
-            test::ExpectApart(clock.card, std::vector{clock.face, clock.texts});
-            EXPECT_GE(clock.texts.width(), 40);
-        }
-        test::ExpectApart(area, cards);
-    }
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 
 #include "map/ui/sun_details.h"
 #include "platform/image/image_codec.h"
-#include "support/apart.h"
 #include "support/places_on_device.h"
 
 namespace rlx {
@@ -133,18 +132,6 @@ TEST_F(MapScreen, BrokenImageLeavesAPlainMapAndSaysSo) {
     TakeWhiteMap();
     screen.grab();
     EXPECT_EQ(screen.accessibleDescription(), "");
-}
-
-TEST_F(MapScreen, PartsNeverOverlapAndLieWithinTheWindow) {
-    for (const QSize& size :
-         {QSize(240, 246), QSize(272, 210), QSize(480, 540), QSize(720, 440), QSize(1180, 770), QSize(900, 300)}) {
-        const QRect area({0, 0}, size);
-        const MapLayout layout = LayOutMap(area);
-        const QRect parts[] = {layout.picture, layout.scrubber, layout.clock, layout.span, layout.now, layout.panel};
-        test::ExpectApart(area, parts);
-        EXPECT_GE(layout.picture.width(), size.width() / 2) << size.width();
-        EXPECT_GE(layout.panel.height(), std::clamp(size.height() / 4, 60, 88)) << size.width();
-    }
 }
 
 TEST(SunDetails, PolarNightIsSaidInWords) {
