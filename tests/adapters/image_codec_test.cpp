@@ -82,10 +82,8 @@ TEST(ImageCodec, RefusesBrokenBmp) {
         {"too few pixels", {2, 2, 24, 0, 0, "", pixels.substr(1)}},
         {"enormous", {0x7FFFFFFF, 0x7FFFFFFF, 32, 0, 0, "", pixels}},
         {"highest negative", {2, 0x80000000U, 24, 0, 0, "", pixels}},
-        {"negative width", {static_cast<std::uint32_t>(-2), 2, 24, 0, 0, "", pixels}},
         {"too many sides, few pixels", {16385, 1, 8, 0, 0, "", std::string(20000, 'x')}},
         {"compressed", {2, 2, 8, 1, 0, "", pixels}},
-        {"unusual masks", {2, 2, 32, 3, 0, std::string(12, 'm'), std::string(16, 'p')}},
         {"too many colours", {2, 2, 8, 0, 257, "", std::string(8, 0)}},
     };
     for (const auto& row : rows)

@@ -60,9 +60,7 @@ class Feeds(FeedTest):
         self.assertEqual(answer["text"], "0.00006250")
         self.answer("rates", "convert", "1", "usd", "abc", status=1,
                     messages=['No currency has the code or name "abc".'])
-        wrong = self.run_rlx("rates", "convert", "many", "usd", "eur")
-        self.assertEqual(wrong.returncode, 2)
-        self.assertIn(b'"many" is not an amount', wrong.stderr)
+        self.assertEqual(self.run_rlx("rates", "convert", "many", "usd", "eur").returncode, 2)
         self.answer("rates", "convert", "1", "usd", "xxx", status=1, messages=["XXX: rate unknown"])
 
     def test_post(self):
@@ -77,14 +75,12 @@ class Feeds(FeedTest):
         (self.home / "cities.wet").write_text("1\nParis:France;paris_fr;\n")
         self.answer("settings", "set", "ControlPanel\\Owner", "Owner", "--text", "Ann")
         self.answer("settings", "set", "Roamlytix", "hlname", "--text", "Parma")
-        rows = [("currency", "did=Ann&jc=110&os=wince", "0x0"), ("news", "did=Ann&jc=115&cnid=&os=wince", "&'0'"),
-                ("weather:Pari", "did=Ann&jc=111&c='", "&'0'")]
-        for kind, begin, end in rows:
-            with self.subTest(kind):
-                parameters = self.answer("feed", "string", kind)["parameters"]
-                self.assertTrue(parameters.startswith(begin), parameters)
-                self.assertTrue(parameters.endswith(end), parameters)
-                self.assertIn("&home=Parma&scrsize=", parameters)
+        rows = [("currency", "did=Ann&jc=110&os=wince"), ("news", "did=Ann&jc=115&cnid=&os=wince"),
+                ("weather:Pari", "did=Ann&jc=111&c='Paris'")]
+        for kind, begin in rows:
+            parameters = self.answer("feed", "string", kind)["parameters"]
+            self.assertTrue(parameters.startswith(begin), parameters)
+            self.assertIn("&home=Parma&scrsize=", parameters)
         self.assertEqual(self.run_rlx("feed", "string", "tides").returncode, 2)
 
     def test_news(self):

@@ -47,9 +47,6 @@ class Lang(RlxTest):
                     messages=['"RoamlyText.dll" is not a language module.'])
         self.assertEqual(self.list.read_bytes(), b"0,English,none@>")
         self.assertFalse((self.home / "LangsRes").exists())
-        missing = self.folder / "nowhere"
-        self.answer("lang", "install", missing, "RoamlyPseudo.dll", status=1,
-                    messages=[f'There is no folder "{missing}".'])
         self.answer("lang", "use", "1", status=1, messages=["There is no language 1 in the list."])
         self.assertEqual(self.answer("settings", "get", "Roamlytix", "lang")["status"], -2)
 

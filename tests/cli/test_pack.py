@@ -60,8 +60,6 @@ class Pack(RlxTest):
         trip = ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat1"), ("bag",))
         rows = (  # words, messages, categories afterwards
             ("tick|Trip|Bag|Hat", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat1", "hat1"), ("bag",))]),
-            ("uncheck|Trip|Bag", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat0"), ("bag",))]),
-            ("delete-item|Trip|Bag|HAT", [], [everything, ("Trip", trip[1], ("Bag", "hat1"), ("bag",))]),
             ("delete-list|Trip|BAG", [], [everything, ("Trip", ("All Items", "Hat0"), ("bag",))]),
             ("delete-category|TRIP", [], [everything]),
             ("clear|Trip|All Items|--yes", [CLEAR_CATEGORY], [everything, ("Trip", ("All Items",), ("Bag",), ("bag",))]),

@@ -27,15 +27,6 @@ TEST_F(CityDatabase, BuildsOnceInTheOrderOfThePlaces) {
     EXPECT_TRUE(boxes.shown.empty());
 }
 
-TEST_F(CityDatabase, AnswersEmptyTextsPastTheEnd) {
-    EXPECT_EQ(cities.GetPlace(0), u"") << "no database yet";
-    Build(kTwoCities);
-    for (const CityIndex index : {2U, 684U, 0xFFFFFFFFU}) {
-        EXPECT_EQ(cities.GetPlace(index) + cities.GetLatitude(index) + cities.GetGmt(index), u"") << index;
-        EXPECT_FALSE(cities.Record(index).has_value()) << index;
-    }
-}
-
 TEST_F(CityDatabase, TellsOfAMissingFileAndTriesAgain) {
     EXPECT_EQ(cities.EnsureCreated(), CityListState::kNoFile);
     EXPECT_EQ(cities.EnsureCreated(), CityListState::kNoFile);

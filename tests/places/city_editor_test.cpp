@@ -1,7 +1,5 @@
 #include "places/city_editor.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "places/cities_fixture.h"
 #include "places/zone_city.h"
@@ -41,13 +39,11 @@ TEST_F(CityEditor, NamesTheFieldThatIsWrong) {
     } rows[] = {
         {CityField::kName, u"  ", "Enter the name of the city."},
         {CityField::kName, u"A:B", "The list of cities cannot hold \":\"."},
-        {CityField::kName, u">", "The list of cities cannot hold \">\"."},
         {CityField::kName, std::u16string(101, u'a'), "At most 100 characters."},
         {CityField::kName, u"\u0141\u00F3d\u017A", "The list of cities cannot hold \"\u0141\"."},
         {CityField::kName, u"S\u00E3o", ""},
         {CityField::kLongitude, u"-180", ""},
         {CityField::kLongitude, u"180.001", "The longitude is a number of degrees from -180 (west) to 180 (east)."},
-        {CityField::kLatitude, u"+90", ""},
         {CityField::kLatitude, u"48,8", "The latitude is a number of degrees from -90 (south) to 90 (north)."},
         {CityField::kZone, u"", ""},
         {CityField::kZone, u"Mars/Base", "The system knows no time zone \"Mars/Base\"."},

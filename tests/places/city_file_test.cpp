@@ -1,7 +1,5 @@
 #include "places/city_file.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "places/city_list.h"
 
@@ -35,13 +33,10 @@ TEST(CityFile, ReadsWhatItCanOfAnyBytes) {
         {"more promised than there are", "9\n" + a, cityA},
         {"a promise without end", "2147483647\n" + a + b, cityA + " " + cityB},
         {"a negative promise", "-1\n" + a, ""},
-        {"nothing", "", ""},
         {"the mark for a name", "3\n" + a + "x;>;\n" + b, cityA},
         {"the mark for a longitude", "3\n" + a + "x;B;L;>;2;3;0;4;5;6;7\n" + b, cityA},
         {"the mark for a country is a country", "2\nx;A;>;1;2;3;0;4;5;6;7\n" + b, "A:>|1:2|3|0:4:5:6:7 " + cityB},
-        {"the mark in the last field is a text", "2\nx;A;L;1;2;3;0;4;5;6;>\n" + b, "A:L|1:2|3|0:4:5:6:> " + cityB},
         {"a doubled delimiter moves the fields", "1\nx;A;;L;1;2;3;0;4;5;6;7\n", "A:L|1:2|3|0:4:5:6:7"},
-        {"a moved line takes from the next", "1\nx;A;L;;1;2;3;0;4;5;6\ny;B\n", "A:L|1:2|3|0:4:5:6\ny:B"},
         {"an empty last field takes the next line", "2\nx;A;L;1;2;3;0;4;5;6;\n" + b,
          "A:L|1:2|3|0:4:5:6:x;B;L;1;2;3;0;4;5;6;7"},
         {"a short last line with a name", "2\n" + a + "x;B;L;1", cityA + " B:L|1:||::::"},
@@ -51,16 +46,6 @@ TEST(CityFile, ReadsWhatItCanOfAnyBytes) {
     };
     for (const auto& row : rows)
         EXPECT_EQ(ReadAll(row.file), row.cities) << row.name;
-}
-
-TEST(CityFile, KeepsBytesAboveAsciiAndZero) {
-    CMemoryStream file(std::string("1\nx;\xC5\0\xFF;L;1;2;3;0;4;5;6;7\n", 26));
-    std::u16string place;
-    ReadCityFile(file, [&](const CityLine& line) {
-        place = line.place;
-        return true;
-    });
-    EXPECT_EQ(place, std::u16string(u"\u00C5\0\u00FF:L", 5));
 }
 
 TEST(CityList, KeepsWhatNobodyChanged) {

@@ -1,7 +1,5 @@
 #include "places/city_info.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "places/cities_fixture.h"
 #include "places/home_distance.h"

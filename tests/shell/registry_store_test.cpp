@@ -94,14 +94,6 @@ TEST_F(RegistryStore, ADefaultIsWrittenOnlyWhenTheKeyIsMissing) {
     EXPECT_TRUE(m_memory.KeyExists(RegistryRoot::kCurrentUser, keys::kOwner));
 }
 
-TEST_F(RegistryStore, AMissingClockIsNotWrittenButAMissingSwitchIs) {
-    m_store.WriteDword(kMachine, keys::kWorldClock, names::kClocks[1], 12);
-    EXPECT_EQ(LoadClockSettings(m_store), (ClockSettings{0, {684, 12, 565, 988}, 0}));
-    EXPECT_EQ(Names(keys::kWorldClock), (std::vector<std::u16string>{u"clock2", u"syncltz"}));
-    m_store.WriteDword(kMachine, keys::kWorldClock, names::kSyncZone, 2);
-    EXPECT_EQ(LoadClockSettings(m_store).syncZone, 2U);
-}
-
 TEST_F(RegistryStore, AFailingDeviceGivesDefaultsAndLosesNothing) {
     m_plan.FailAll();
     EXPECT_FALSE(m_store.WriteDword(kMachine, kKey, u"n", 1));

@@ -87,15 +87,6 @@ TEST(SkinWriter, RefusesWhatWouldBreakTheFile) {
     EXPECT_EQ(WriteSkin(files, kSkin, edit, false).status, SkinWriteStatus::kTooLong);
 }
 
-TEST(SkinWriter, ADeviceThatRefusesLosesNothing) {
-    auto files = test::FilesWith(test::SoundSkin());
-    files.readOnly.insert("/skins");
-    CSkinEdit edit;
-    edit.SetColour(SkinKey::kGeneralPC, 1);
-    EXPECT_EQ(WriteSkin(files, kSkin, edit, false).status, SkinWriteStatus::kNotSaved);
-    EXPECT_EQ(WriteSkin(files, "/skins/none.skn", edit, false).status, SkinWriteStatus::kNotRead);
-}
-
 TEST(SkinWriter, DamagedFilesAreKept) {
     const std::string old = test::Replaced(test::SoundSkin(), "BKC@255\r\n", "");
     auto files = test::FilesWith(old);
@@ -122,7 +113,6 @@ TEST(SkinLoader, FallsBackAndSaysSo) {
     } rows[] = {
         {"default", u"default", true, {}, {}, "/app"},
         {"chosen, as the device writes paths", u"\\skins\\mine.skn", true, {}, {}, "/skins"},
-        {"gone", u"/skins/gone.skn", true, {selected}, {u"default"}, "/app"},
         {"both gone", u"/skins/gone.skn", false, {selected, reinstall}, {u"default"}, ""},
         {"default gone", u"default", false, {reinstall}, {}, ""},
     };

@@ -1,7 +1,5 @@
 #include "weather/weather_settings.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_registry.h"
 #include "weather/icon_set.h"
@@ -26,14 +24,6 @@ TEST_F(WeatherSettings, FirstPlacesAreThoseOfTheClocksAndWrittenAtOnce) {
     EXPECT_EQ(m_registry.List().size(), 4U) << "the clocks' own values are left to the clocks";
     m_store.WriteDword(kRoot, u"Roamlytix\\wrldclk", u"clock", 77);
     EXPECT_EQ(m_settings.LoadPlaces()[0], 0U) << "chosen once, places do not follow the clocks";
-}
-
-TEST_F(WeatherSettings, AMissingValueOfAKeyThatIsThereIsNotWritten) {
-    m_store.WriteDword(kRoot, u"Roamlytix\\wrldclk", u"clock", 77);
-    m_settings.SavePlace(1, 5);
-    m_settings.SavePlace(4, 9);
-    EXPECT_EQ(m_settings.LoadPlaces(), (CWeatherSettings::Places{77, 5, 756, 565}));
-    EXPECT_EQ(m_registry.List().size(), 2U);
 }
 
 TEST_F(WeatherSettings, OddNumbersFallBack) {

@@ -1,7 +1,5 @@
 #include "tools/converter/conversion.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 #include "base/number.h"
@@ -32,12 +30,10 @@ TEST(Conversion, GivesTheResultFieldAsShown) {
         {u"1", u"Short ton", u"kg - Kilogram", u"907.18474"},
         {u"3", u"Liter", u"Cup [US]", u"{40707}"},
         {u"0", u"Cup [US]", u"bucket [US]", u"{40708}"},
-        {u"1", u"km - Kilometer", u"Microinch", u"39370078740.1575"},
         {u"1e400", u"acre ", u"hectare", u"{40707}"},
         {u" 12,5 km", u"Hectogram", u"Megagram", u"0.0012"},
         {u"100", u"°C - Degree Celsius", u"Degree Reaumur", u"80"},
         {u"100", u"°C - Degree Celsius", u"Degree Rankine", u"671.67"},
-        {u"80", u"Degree Reaumur", u"°C - Degree Celsius", u"100"},
         {u"491.67", u"Degree Rankine", u"K - Kelvin", u"273.15"},
     };
     const test::CNumberTexts texts;
@@ -64,7 +60,6 @@ TEST(UnitSearch, ResolvesWholeNamesAndBeginnings) {
         {u"Yard", u"Feet", {}, kNeedsCategory, u"Yard"},
         {u"Dram", u"Grain", 6, kFound, u"Dram|Grain"},
         {u"square mile", u"square k", 0, kNotFound, u"square k"},
-        {u"parsec", u"Mile", {}, kNotFound, u"parsec"},
         {u"Mile", u"kilopond/square m", {}, kDifferentCategories, u"kilopond/square m"},
     };
     const UnitTables tables = SeedTables();

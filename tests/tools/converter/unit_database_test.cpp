@@ -1,7 +1,5 @@
 #include "tools/converter/unit_database.h"
 
-#include <gtest/gtest.h>
-
 #include "base/number.h"
 #include "base/text.h"
 #include "platform/fake/memory_object_store.h"
@@ -81,16 +79,6 @@ TEST_F(UnitDatabaseTest, DeletesAfterAQuestionAndByExactName) {
         EXPECT_FALSE(m_editor.Delete(kAreas, name));
         EXPECT_EQ(Shown().at(0).text, u"{32944}" + std::u16string(name) + u"{40723}");
     }
-}
-
-TEST_F(UnitDatabaseTest, DeviceThatRefusesWritesLosesNothing) {
-    m_store.Failures().FailAll();
-    m_boxes.answers = {BoxAnswer::kYes};
-    EXPECT_FALSE(m_editor.Add(kAreas, u"pitch", u"7140"));
-    EXPECT_EQ(Shown().back().text, u"{40722}");
-    EXPECT_FALSE(m_editor.Delete(kAreas, u"yard"));
-    EXPECT_EQ(Shown().back().text, u"{40722}");
-    EXPECT_EQ(m_units.ReadAll().size(), 350U);
 }
 
 TEST(UnitDatabase, IsSeededWholeOrNotAtAll) {

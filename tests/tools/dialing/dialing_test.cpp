@@ -1,7 +1,5 @@
 #include "tools/dialing/dialing.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "tools/dialing/dialing_tables.h"
 
@@ -46,11 +44,6 @@ TEST(Dialing, TablesHoldWhatTheirColumnsPromise) {
         EXPECT_LE(last, row.first);
         last = row.first;
     }
-}
-
-TEST(Dialing, ColumnWidthsAreWholeNumbers) {
-    EXPECT_EQ(DialingColumnWidths(kInternational, 237), (std::array{108, 62, 49}));
-    EXPECT_EQ(DialingColumnWidths(kInternational, 96), (std::array{44, 25, 19}));
 }
 
 }  // namespace

@@ -1,7 +1,5 @@
 #include "tools/packing/packing_organizer.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "platform/fake/memory_file_system.h"
 #include "platform/fake/scripted_message_boxes.h"

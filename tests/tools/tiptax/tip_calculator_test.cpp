@@ -1,7 +1,5 @@
 #include "tools/tiptax/tip_calculator.h"
 
-#include <gtest/gtest.h>
-
 #include "base/number.h"
 #include "base/text.h"
 #include "platform/fake/scripted_message_boxes.h"

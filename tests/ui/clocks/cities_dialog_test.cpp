@@ -1,9 +1,5 @@
 #include "places/ui/cities_dialog.h"
 
-#include <QPushButton>
-#include <QTest>
-#include <functional>
-
 #include "places/ui/city_chooser.h"
 #include "places/ui/city_dialog.h"
 #include "platform/fake/fixed_time_zones.h"

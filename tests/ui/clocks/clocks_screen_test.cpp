@@ -1,9 +1,5 @@
 #include "clocks/ui/clocks_screen.h"
 
-#include <QMenu>
-#include <QSignalSpy>
-#include <QTest>
-
 #include "clocks/ui/clocks_layout.h"
 #include "platform/image/image_codec.h"
 #include "support/places_on_device.h"

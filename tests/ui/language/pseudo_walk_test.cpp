@@ -1,11 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QDialog>
-#include <QMenu>
-#include <QPushButton>
-#include <QTimer>
-#include <QToolButton>
 #include <set>
 
 #include "shell/command_ids.h"

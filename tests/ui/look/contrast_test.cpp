@@ -1,13 +1,11 @@
-#include <gtest/gtest.h>
-
 #include <set>
 
 #include "base/text.h"
 #include "shell/resources.h"
 #include "shell/setting_names.h"
 #include "support/numbered_names.h"
+#include "support/painted_texts.h"
 #include "support/paths.h"
-#include "support/text_contrast.h"
 #include "support/whole_program.h"
 #include "uikit/template_dialog.h"
 
@@ -34,13 +32,15 @@ protected:
 
     void Check(QWidget& widget, const QString& where) {
         QApplication::processEvents();
-        for (const test::TextContrast& each : test::ContrastsOf(widget)) {
+        for (const test::PaintedText& each : test::PaintedTexts(widget)) {
+            if (!each.widget->isEnabled()) continue;  // may be faint
             ++m_seen;
             m_worst = std::min(m_worst, each.ratio);
-            if (each.ratio >= kLeast || !m_told.insert(each.text + each.widget).second) continue;
-            ADD_FAILURE() << where.toStdString() << ": \"" << each.text.toStdString() << "\" of "
-                          << each.widget.toStdString() << ": " << each.ratio << ", " << each.pen.name().toStdString()
-                          << " on " << each.ground.name().toStdString();
+            const QString name = QString(each.widget->metaObject()->className()) + " " + each.widget->objectName();
+            if (each.ratio >= kLeast || !m_told.insert(each.text + name).second) continue;
+            ADD_FAILURE() << where.toStdString() << ": \"" << each.text.toStdString() << "\" of " << name.toStdString()
+                          << ": " << each.ratio << ", " << each.pen.name().toStdString() << " on "
+                          << each.ground.name().toStdString();
         }
     }
 

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "clocks/ui/clocks_layout.h"
 #include "map/ui/map_layout.h"
 #include "tools/ui/tool_list.h"

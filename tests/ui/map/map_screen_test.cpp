@@ -1,9 +1,5 @@
 #include "map/ui/map_screen.h"
 
-#include <QLabel>
-#include <QTest>
-#include <QTimer>
-
 #include "map/ui/sun_details.h"
 #include "platform/image/image_codec.h"
 #include "support/places_on_device.h"

@@ -1,9 +1,5 @@
 #include "news/ui/news_screen.h"
 
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-
 #include "platform/fake/fixed_clock.h"
 #include "platform/fake/memory_file_system.h"
 #include "platform/fake/memory_registry.h"

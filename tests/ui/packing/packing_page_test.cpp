@@ -1,11 +1,5 @@
 #include "tools/packing/ui/packing_page.h"
 
-#include <gtest/gtest.h>
-
-#include <QPlainTextEdit>
-#include <QTest>
-#include <QTreeView>
-
 #include "shell/command_ids.h"
 #include "shell/control_ids.h"
 #include "tools/packing/text_ids.h"

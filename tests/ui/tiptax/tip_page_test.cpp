@@ -1,9 +1,5 @@
 #include "tools/tiptax/ui/tip_page.h"
 
-#include <gtest/gtest.h>
-
-#include <QTest>
-
 #include "ui/tools/tools_test_device.h"
 
 namespace rlx {

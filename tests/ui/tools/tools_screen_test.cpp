@@ -1,7 +1,5 @@
 #include "tools/ui/tools_screen.h"
 
-#include <QTest>
-
 #include "shell/setting_names.h"
 #include "tools/clothing/text_ids.h"
 #include "tools/converter/text_ids.h"

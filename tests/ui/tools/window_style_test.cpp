@@ -1,16 +1,5 @@
 #include "uikit/window_style.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QDialog>
-#include <QImage>
-#include <QPainter>
-#include <QPushButton>
-#include <QStyleOptionButton>
-#include <QTest>
-
 #include "uikit/enter_presses.h"
 
 namespace rlx {

@@ -1,8 +1,5 @@
 #include "weather/ui/weather_screen.h"
 
-#include <QMenu>
-#include <QTest>
-
 #include "base/text.h"
 #include "platform/image/image_codec.h"
 #include "support/places_on_device.h"
