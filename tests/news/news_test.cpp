@@ -1,7 +1,6 @@
 #include "feeds/feed_world.h"
 #include "feeds/news_fetch.h"
 #include "news/news_page.h"
-#include "news/news_zoom.h"
 #include "platform/fake/fixed_clock.h"
 #include "platform/posix/posix_file_system.h"
 #include "shell/resources.h"
@@ -9,16 +8,6 @@
 
 namespace rlx::test {
 namespace {
-
-/// Writes down what the viewer is told.
-class CRecordedView : public INewsView {
-public:
-    std::vector<std::string> said;
-    void ClearText() override { said.push_back("clear"); }
-    void AddText(const std::u16string& html) override { said.push_back("add " + ToUtf8(html)); }
-    void EndOfSource() override { said.push_back("end"); }
-    void Navigate(const std::u16string& url) override { said.push_back("go " + ToUtf8(url)); }
-};
 
 struct NewsWorld : FeedWorld {
     std::string Page() { return files.ReadFile(folder.Path() / "news.htm", 1 << 20).value_or("(none)"); }
@@ -65,25 +54,6 @@ TEST(NewsFetch, APageThatCannotBeSavedIsStillNew) {
     EXPECT_EQ(world.Flags(), "11 -1 -1");
 }
 
-TEST(NewsPage, ShowsThePageOrThatThereIsNone) {
-    NewsWorld world;
-    CRecordedView view;
-    world.settings.WriteDword(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kNewNews, 1);
-    world.page.Show(view);
-    EXPECT_EQ(view.said, (std::vector<std::string>{"clear", "add <HTML><TITLE></TITLE>", "add <BODY><P>",
-                                                   "add No news...<BR>", "add </BODY></HTML>", "end"}));
-    EXPECT_EQ(world.Flags(), "(none) 0 1");
-    EXPECT_EQ(world.page.Html(), u"<HTML><TITLE></TITLE><BODY><P>No news...<BR></BODY></HTML>");
-    world.files.WriteFile(world.folder.Path() / "news.htm", "\xFFpage");
-    view.said.clear();
-    world.page.Show(view);
-    EXPECT_EQ(view.said,
-              (std::vector<std::string>{"clear", "go file://" + (world.folder.Path() / "news.htm").string()}));
-    EXPECT_EQ(world.page.Html(), u"\u00FFpage");
-    EXPECT_EQ(world.page.State().newsId, u"0");
-    EXPECT_TRUE(world.page.State().newsRead);
-}
-
 TEST(NewsPage, GrowsOldAfterThreeDays) {
     const struct {
         const char* name;
@@ -96,28 +66,6 @@ TEST(NewsPage, GrowsOldAfterThreeDays) {
                 {"nobody knows", std::nullopt, true}};
     for (const auto& row : rows)
         EXPECT_EQ(AreNewsStale({u"1", false, true, row.fetched, u""}, {2026, 11, 22}), row.stale) << row.name;
-}
-
-TEST(NewsZoom, TheSquaresHaveStrictBounds) {
-    constexpr int kRight = 240;
-    constexpr int kBottom = 300;
-    const struct {
-        const char* name;
-        int level, x, y, after;
-    } rows[] = {
-        {"plus", 2, 227, 287, 3},
-        {"left border of plus", 2, 217, 287, 2},
-        {"right border of plus", 2, 237, 287, 2},
-        {"left border of minus", 2, 194, 287, 2},
-        {"right border of minus", 2, 214, 287, 2},
-        {"plus at the largest", 4, 227, 287, 4},
-        {"minus at the smallest", 0, 204, 287, 0},
-    };
-    for (const auto& row : rows) {
-        CNewsZoom zoom(row.level);
-        EXPECT_EQ(zoom.Tap(row.x, row.y, kRight, kBottom), row.after) << row.name;
-    }
-    EXPECT_EQ(CNewsZoom().Level(), 2);
 }
 
 }  // namespace

@@ -140,17 +140,6 @@ TEST_F(Languages, StartKnowsWhatToDo) {
     EXPECT_EQ(Listed(*ReadLanguageList(files, folder, texts)), "0|English|none\n");
 }
 
-TEST_F(Languages, FilesThatLookLikeModulesAreListed) {
-    files.files["/card/ROAMLYgood.dll"] = "";
-    std::string lines;
-    for (const ModuleFile& file : ListModules(files, "/card", *ReadLanguageList(files, folder, texts)))
-        lines += ToUtf8(file.name) + (file.installed ? " (installed)\n" : "\n");
-    EXPECT_EQ(lines,
-              "ROAMLYgood.dll (installed)\nRoamly.dll\nRoamlyA,B.dll\nRoamlyA>B.dll\nRoamlyA@B.dll\n"
-              "RoamlyBad.dll (installed)\nRoamlyHuge.dll\nRoamlyNew.dll\nroamlynumbers.DLL\n");
-    EXPECT_TRUE(ListModules(files, "/nowhere", CLanguageList({})).empty());
-}
-
 TEST_F(Languages, RefusedModulesChangeNothing) {
     files.files["/card/RoamlyBroken.dll"] = Module().substr(0, 3000);
     const struct {
@@ -173,17 +162,6 @@ TEST_F(Languages, RefusedModulesChangeNothing) {
     }
     EXPECT_EQ(files.ListFiles("/app/LangsRes").size(), 2U);
     EXPECT_EQ(files.ListFiles("/card").size(), 12U);
-}
-
-TEST_F(Languages, InstalledModuleIsCopiedOrMovedAndListed) {
-    EXPECT_EQ(Install(u"roamlynumbers.DLL"), InstallOutcome::kInstalled);
-    EXPECT_EQ(Install(u"RoamlyNew.dll", true), InstallOutcome::kInstalled);
-    EXPECT_TRUE(List().ends_with("6,None,none@7,numbers,roamlynumbers.DLL@8,New,RoamlyNew.dll@>")) << List();
-    EXPECT_TRUE(files.IsFile("/card/roamlynumbers.DLL"));
-    EXPECT_FALSE(files.IsFile("/card/RoamlyNew.dll"));
-    EXPECT_EQ(Start(7), LanguageState::kModule);
-    EXPECT_EQ(Start(8), LanguageState::kModule);
-    EXPECT_EQ(Install(u"roamlynumbers.DLL"), InstallOutcome::kAlreadyInstalled);
 }
 
 TEST_F(Languages, ModuleFolderItselfIsOnlyListed) {

@@ -73,12 +73,6 @@ TEST_F(WeatherUpdate, AsksForEachPlaceOnce) {
     EXPECT_TRUE(m_store.Find(u"Oslo:Norway"));
 }
 
-TEST_F(WeatherUpdate, NoAnswerAtAllIsSaidOnce) {
-    m_outcomes[u"Paris"] = FeedOutcome::kFailed;
-    EXPECT_EQ(Run({u"Paris:France", u"Oslo:Norway"}), (Results{PlaceUpdate::kNoReply, PlaceUpdate::kNotAsked}));
-    EXPECT_EQ(Shown(), (std::vector<std::u16string>{u"Syncronisation failed"}));
-}
-
 TEST_F(WeatherUpdate, OneBadPlaceKeepsNobodyElseFromWeather) {
     m_outcomes[u"Wien"] = FeedOutcome::kFailed;
     EXPECT_EQ(

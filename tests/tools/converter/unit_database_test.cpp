@@ -66,21 +66,6 @@ TEST_F(UnitDatabaseTest, RefusalsSayWhyAndChangeNothing) {
     EXPECT_EQ(m_units.ReadAll(), before);
 }
 
-TEST_F(UnitDatabaseTest, DeletesAfterAQuestionAndByExactName) {
-    EXPECT_FALSE(m_editor.Delete(kAreas, u"yard"));
-    EXPECT_EQ(m_units.ReadAll().size(), 350U);
-    m_boxes.answers = {BoxAnswer::kYes};
-    EXPECT_TRUE(m_editor.Delete(kAreas, u"yard"));
-    EXPECT_EQ(m_units.ReadAll().size(), 349U);
-    EXPECT_EQ(m_units.ReadTables()[1].back().name, u"Yard");
-    Shown();
-
-    for (const auto* name : {u"yard", u"ARE", u"acre", u"Tonne"}) {
-        EXPECT_FALSE(m_editor.Delete(kAreas, name));
-        EXPECT_EQ(Shown().at(0).text, u"{32944}" + std::u16string(name) + u"{40723}");
-    }
-}
-
 TEST(UnitDatabase, IsSeededWholeOrNotAtAll) {
     CMemoryObjectStore store;
     store.Failures().FailAt(200);

@@ -138,6 +138,9 @@ TEST_F(NewsScreen, SquaresInTheCornerChangeTheSize) {
     EXPECT_EQ(tap(13, 13), 3);
     EXPECT_GT(view->document()->defaultFont().pixelSize(), before);
 
+    EXPECT_EQ(tap(13, 13), 4);
+    EXPECT_EQ(tap(13, 13), 4) << "the largest";
+    EXPECT_EQ(tap(36, 13), 3);
     EXPECT_EQ(tap(36, 13), 2);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&screen));
     QTest::keyClick(view, Qt::Key_Plus, Qt::ControlModifier);
