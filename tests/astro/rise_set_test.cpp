@@ -39,9 +39,8 @@ TEST(RiseSet, PolarSeasonsAreNamed) {
     } rows[] = {
         {"north cape in june", {2024, 6, 21}, 71, DayKind::kPolarDay},
         {"north cape in december", {2024, 12, 21}, 71, DayKind::kPolarNight},
-        {"north pole in june", {2024, 6, 21}, 90, DayKind::kPolarDay},
+        {"south pole in june", {2024, 6, 21}, -90, DayKind::kPolarNight},
         {"equator", {2024, 6, 21}, 0, DayKind::kNormal},
-        {"arctic circle before the solstice", {2024, 5, 1}, 66, DayKind::kNormal},
     };
     for (const auto& row : rows) {
         const RiseSet sun = SunRiseAndSet(row.date, {row.latitude, 0, 0.0});

@@ -93,36 +93,6 @@ TEST(DstRule, LaysThePeriodIntoTheYear) {
     EXPECT_EQ(days.end, At("2027-04-05 00:00:00"));
 }
 
-TEST(DstRule, DecidesToTheHourOrToTheDay) {
-    const char16_t* north = u"1:88:2:298:3";
-    const char16_t* south = u"1:277:2:95:3";
-    const struct {
-        const char* name;
-        const char16_t* rule;
-        const char* now;
-        int year;
-        bool byHour;
-        bool byDay;  // asked about the midnight that begins the day
-    } rows[] = {
-        {"the start day, too early", north, "2026-03-29 01:59:59", 2026, false, true},
-        {"the start hour", north, "2026-03-29 02:00:00", 2026, true, true},
-        {"the last moment", north, "2026-10-25 03:00:00", 2026, true, true},
-        {"a second later", north, "2026-10-25 03:00:01", 2026, false, true},
-        {"the day after", north, "2026-10-26 00:00:00", 2026, false, false},
-        {"southern summer", south, "2026-10-04 02:00:00", 2026, true, true},
-        {"its last day of the year", south, "2026-12-31 23:59:59", 2026, true, true},
-        {"from 1 January on it does not count", south, "2027-01-01 00:00:00", 2027, false, false},
-        {"a city already in the new year, the device not", south, "2027-01-01 00:00:00", 2026, true, true},
-        {"a period that never comes", u"1:2147483647:0:2147483647:0", "2026-07-01 12:00:00", 2026, false, false},
-    };
-    for (const auto& row : rows) {
-        const DstRule rule = ParseDstRule(row.rule);
-        const DateTime now = At(row.now);
-        EXPECT_EQ(IsDstActive(rule, now, row.year, DstPrecision::kHour), row.byHour) << row.name;
-        EXPECT_EQ(IsDstActive(rule, {now.date, 0, 0, 0, 0}, row.year, DstPrecision::kDay), row.byDay) << row.name;
-    }
-}
-
 TEST(GmtOffset, SplitsAndAdds) {
     const struct {
         GmtOffset offset;
