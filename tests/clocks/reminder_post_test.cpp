@@ -63,14 +63,6 @@ TEST_F(Reminders, AreToldByOneOfTwoPrograms) {
     EXPECT_EQ(notifier.taken.size() + otherNotifier.taken.size(), 1U);
 }
 
-TEST_F(Reminders, ChangedMeanwhileAreNotTakenForTheOldOnes) {
-    Save(0, 21, 30);
-    auto stale = store.Load(0);
-    Save(0, 22, 30);
-    EXPECT_FALSE(store.Mark(*stale, {ReminderMark::State::kTold, {}}));
-    EXPECT_EQ(store.Load(0)->mark.state, ReminderMark::State::kWaiting);
-}
-
 TEST_F(Reminders, WithoutANotificationServiceComeInABoxOrWaitForOne) {
     notifier.takes = false;
     Save(0, 21, 0);

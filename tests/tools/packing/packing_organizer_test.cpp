@@ -1,7 +1,5 @@
 #include "tools/packing/packing_organizer.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "platform/fake/memory_file_system.h"
 #include "platform/fake/scripted_message_boxes.h"
@@ -160,17 +158,6 @@ TEST_F(PackingOrganizerTest, SavesOnlyWhenAskedTo) {
     EXPECT_FALSE(m_folder.files.contains(kBackup));
 }
 
-TEST_F(PackingOrganizerTest, SaveThatFailsKeepsFileAndChanges) {
-    LoadBytes(kEmptyFile);
-    ASSERT_TRUE(m_pack.AddItem(u"tent"));
-    m_folder.readOnly.insert(kFile);
-    m_boxes.answers = {BoxAnswer::kYes};
-    EXPECT_FALSE(m_pack.Leave());
-    EXPECT_EQ(m_boxes.shown.back().text, u"{41033}");
-    EXPECT_TRUE(m_pack.IsChanged());
-    EXPECT_EQ(m_folder.files.at(kFile), kEmptyFile);
-}
-
 TEST_F(PackingOrganizerTest, NothingInTheFileIsLostBySaving) {
     struct {
         const char* name;
@@ -180,10 +167,7 @@ TEST_F(PackingOrganizerTest, NothingInTheFileIsLostBySaving) {
         std::u16string told;
     } const kRows[] = {
         {"malformed", "my notes", "my notes", "my notes", u""},
-        {"emptied meanwhile", kEmptyFile, "", "", u""},
         {"changed meanwhile", kEmptyFile, "theirs", "theirs", u"{41034}"},
-        {"too large to read", std::string(5U << 20U, 'x'), std::string(5U << 20U, 'x'), std::string(5U << 20U, 'x'),
-         u""},
         {"made meanwhile", "", "theirs", "theirs", u"{41034}"},
     };
     for (const auto& [name, loaded, meanwhile, kept, told] : kRows) {
