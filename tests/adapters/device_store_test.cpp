@@ -174,5 +174,30 @@ TEST_F(DeviceStore, TwoProcessesThatMeetADamagedFileMoveItOnce) {
     }
 }
 
+TEST_F(DeviceStore, TwoProcessesThatMakeAndBuildAtOnceEndWithOneDatabase) {
+    int gate[2];
+    ASSERT_EQ(pipe(gate), 0);
+    std::vector<pid_t> children;
+    for (int i = 0; i < 4; ++i) {
+        const pid_t child = fork();
+        if (child == 0) {
+            char byte = 0;
+            close(gate[1]);
+            if (read(gate[0], &byte, 1) != 0) _exit(2);  // ends for all when the parent closes it
+            const OpenedStore opened = Open();
+            _exit(BuildOnce(opened.store->Objects(), 3000) == 3000 ? 0 : 1);
+        }
+        children.push_back(child);
+    }
+    close(gate[0]);
+    close(gate[1]);
+    for (const pid_t child : children) {
+        int status = -1;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_EQ(Open().store->Objects().Open(u"db")->Count(), 3000U);
+}
+
 }  // namespace
 }  // namespace rlx
