@@ -3,18 +3,35 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "shell/text_ids.h"
+#include "uikit/qt_text.h"
+#include "weather/text_ids.h"
 #include "weather/ui/fitted_text.h"
+#include "weather/weather_text.h"
 
 namespace rlx {
 
-CForecastOrigin::CForecastOrigin(const CLook& look, QWidget* parent) : QWidget(parent), m_look(look) {}
+CForecastOrigin::CForecastOrigin(const ITexts& texts, const CLook& look, QWidget* parent)
+    : QWidget(parent), m_texts(texts), m_look(look) {}
 
-void CForecastOrigin::Show(const QStringList& marks, const QString& issued, const QString& source) {
-    m_marks = marks;
-    m_issued = issued;
-    m_source = source;
-    setAccessibleDescription((m_marks + QStringList{issued, source}).join('\n'));
-    setToolTip(source);
+QString CForecastOrigin::Text(int id) const {
+    return ToQString(m_texts.Text(id));
+}
+
+void CForecastOrigin::Show(const PlaceForecast& forecast, bool notUpdated) {
+    m_marks.clear();
+    m_issued.clear();
+    m_source.clear();
+    if (forecast.stored) {
+        const CWeatherTexts texts(m_texts, TemperatureUnit::kCelsius);
+        if (forecast.freshness.stale) m_marks << Text(kTextStale);
+        if (notUpdated) m_marks << Text(kTextNotUpdated);
+        if (IsSample(forecast.stored->forecast)) m_marks << Text(kTextSample);
+        m_issued = ToQString(texts.Issued(forecast.stored->forecast));
+        m_source = forecast.IsOver() ? Text(kTextDaysGone) : ToQString(texts.Source(forecast.stored->forecast));
+    }
+    setAccessibleDescription((m_marks + QStringList{m_issued, m_source}).join('\n'));
+    setToolTip(m_source);
     update();
 }
 

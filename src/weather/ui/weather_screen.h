@@ -1,25 +1,21 @@
 #pragma once
 
-#include <QMenu>
-#include <QTimer>
-#include <array>
 #include <functional>
 #include <optional>
-#include <set>
 
 #include "platform/message_boxes.h"
 #include "shell/resources.h"
 #include "uikit/screen.h"
-#include "uikit/template_menu.h"
 #include "weather/place_forecast.h"
-#include "weather/ui/day_card.h"
-#include "weather/ui/day_details.h"
+#include "weather/ui/forecast_days.h"
 #include "weather/ui/forecast_origin.h"
 #include "weather/ui/forecast_server.h"
-#include "weather/ui/link_button.h"
-#include "weather/ui/week_chart.h"
+#include "weather/ui/no_forecast.h"
+#include "weather/ui/place_buttons.h"
+#include "weather/ui/place_updates.h"
+#include "weather/ui/weather_links.h"
+#include "weather/ui/weather_menu.h"
 #include "weather/weather_settings.h"
-#include "weather/weather_update.h"
 
 namespace rlx {
 
@@ -68,66 +64,41 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void MakePlaces();
-    void MakeLinks();
-    void MakeDays();
-    void MakeMenu();
-    void FillIconSets();
+    void ConnectLinks();
+    void ConnectMenu();
+    void MakeBody();
     void Arrange();
     void ShowForecast();
-    void ShowDays();
-    void ShowOrigin();
     void ShowTip();
-    void TakeResults(const std::vector<std::u16string>& places, const std::vector<PlaceUpdate>& results);
-    std::vector<std::u16string> PlacesToUpdate();
     bool HasCity() const { return !m_forecast.place.empty(); }
-    QString EmptyText() const;
     void ChooseIcons();
     void SelectPlace(std::size_t slot);
-    void SelectDay(std::size_t day);
     void SetDayByDay(bool on);
-    void StepDay(int by);
+    void Step(int by);
     void StepPlace(int by);
-    void OpenMenu(std::size_t slot, const QPoint& globalPoint);
-    std::optional<std::size_t> SlotOf(const QObject* button) const;
     CPlaceForecasts Forecasts();
+    QString Text(int id) const;
 
     WeatherPorts m_ports;
     CWeatherSettings m_choices;
+    CPlaceUpdates m_updates;
     CWeatherIcons m_icons;
     std::optional<CCityTimes> m_times;  ///< made anew when the settings change
-    CWeatherSettings::Places m_places{};
+    CWeatherSettings::Places m_cities{};
     std::size_t m_shown = 0;
-    std::size_t m_day = 0;
     bool m_dayByDay = false;
-    bool m_updating = false;
     std::int64_t m_minute = 0;  ///< at which the forecast was last looked at
     TemperatureUnit m_unit = TemperatureUnit::kCelsius;
     PlaceForecast m_forecast;
-    std::set<std::u16string> m_notUpdated;  ///< places that the last update in this run left as they were
-    std::set<std::u16string> m_notServed;   ///< those for which the server had no forecast at all
 
-    std::array<CLinkButton*, kWeatherPlaceCount> m_placeButtons{};
-    CLinkButton* m_view = nullptr;
-    CLinkButton* m_unitLink = nullptr;
-    CLinkButton* m_update = nullptr;
-    CLinkButton* m_heading = nullptr;
-    CLinkButton* m_previous = nullptr;
-    CLinkButton* m_next = nullptr;
-    CLinkButton* m_dayName = nullptr;
-    CLinkButton* m_empty = nullptr;
-    std::array<CDayCard*, kOverviewDays> m_cards{};
-    CDayDetails* m_details = nullptr;
-    CWeekChart* m_chart = nullptr;
+    CPlaceButtons* m_places = nullptr;
+    CWeatherLinks* m_links = nullptr;
+    CForecastDays* m_days = nullptr;
+    CNoForecast* m_noForecast = nullptr;
     CForecastOrigin* m_origin = nullptr;
-    CCommandTable m_commands;
-    QMenu m_menu;
-    QMenu* m_iconMenu = nullptr;
-    QTimer m_longTap;
-    std::size_t m_held = 0;  ///< the place that a finger rests on, or that the menu is about
+    CWeatherMenu m_menu;
     std::optional<QPoint> m_pressed;
 };
 
