@@ -52,6 +52,7 @@ class Map(RlxTest):
         return str(skin)
 
     @staticmethod
+
     def png(width, height, grey):
         def chunk(kind, body):
             return struct.pack(">I", len(body)) + kind + body + struct.pack(">I", zlib.crc32(kind + body))
@@ -79,6 +80,7 @@ class Map(RlxTest):
         out = self.folder / "night.png"
         rows = (  # name, words, exit status, what the message names
             ("no folder", ("--size", "8x4", "-o", "/nowhere/at/all.png", "--skin", "SKIN"), 1, "/nowhere/at/all.png"),
+            ("no skin", ("--skin", "/none.skn", "-o", str(out)), 1, "/none.skn"),
             ("broken image gives no size", ("--skin", "SKIN", "-o", str(out)), 1, "map.png"),
             ("many pixels", ("--size", "16384x16384", "-o", str(out)), 2, "16384x16384"),
             ("margins meet", ("--size", "8x4", "--margin", "4", "-o", str(out)), 2, '"4"'),

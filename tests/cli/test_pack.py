@@ -61,7 +61,10 @@ class Pack(RlxTest):
         rows = (  # words, messages, categories afterwards
             ("tick|Trip|Bag|Hat", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat1", "hat1"), ("bag",))]),
             ("delete-list|Trip|BAG", [], [everything, ("Trip", ("All Items", "Hat0"), ("bag",))]),
+            ("untick|All|All Items|Hat", [], [("All", ("All Items", "Map0", "Hat0"), ("Desk", "Map1")), trip]),
+            ("delete-item|Trip|Bag|HAT", [], [everything, ("Trip", trip[1], ("Bag", "hat1"), ("bag",))]),
             ("delete-category|TRIP", [], [everything]),
+            ("clear|Trip|Bag", [], [everything, ("Trip", trip[1], ("Bag",), ("bag",))]),
             ("clear|Trip|All Items|--yes", [CLEAR_CATEGORY], [everything, ("Trip", ("All Items",), ("Bag",), ("bag",))]),
         )
         for words, messages, after in rows:

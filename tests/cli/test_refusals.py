@@ -49,6 +49,7 @@ def nobody():
 
 class Refusals(RlxTest):
     @classmethod
+
     def setUpClass(cls):
         words = [SERVER, "--listen", "127.0.0.1:0", "--data", PROJECT / "data"]
         cls.server = subprocess.Popen(words, stderr=subprocess.PIPE, text=True)
@@ -56,6 +57,7 @@ class Refusals(RlxTest):
         cls.address = "127.0.0.1:" + said.split()[-1]
 
     @classmethod
+
     def tearDownClass(cls):
         cls.server.kill()
         cls.server.communicate()

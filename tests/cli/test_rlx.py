@@ -2,9 +2,6 @@
 """What `rlx` answers, seen from outside: members, messages, exit statuses, files."""
 
 import json
-import os
-import pathlib
-import shutil
 import subprocess
 import unittest
 
@@ -106,7 +103,7 @@ class Settings(RlxTest):
 
 class Usage(RlxTest):
     def test_wrong_words(self):
-        rows = (("clocks --nosuch", "--nosuch"), ("time", "CITY"), ("city bogus", "bogus"),
+        rows = (("bogus", "bogus"), ("clocks --nosuch", "--nosuch"), ("time", "CITY"), ("city bogus", "bogus"),
                 ("settings set K n --dword 0x10", "0x10"), ("settings set K n --binary 0", "0"),
                 ("settings set K n", "--dword"), ("clocks --now 2026-02-30T00:00:00", "2026-02-30T00:00:00"),
                 ("clocks --bias 1.5", "1.5"), ("--yes --no clocks", "--no"))

@@ -58,6 +58,8 @@ class Units(RlxTest):
     def test_refusals(self):
         self.answer("units", "add", "6", "tONNE", "1", status=1, messages=["Unit < tONNE > already exists!"])
         self.answer("units", "add", "9", "x", "1", status=1, messages=['There is no category of units "9".'])
+
+
 class Dialing(RlxTest):
     def test_tables(self):
         rows = [
@@ -72,6 +74,10 @@ class Dialing(RlxTest):
                 self.assertEqual((members["columns"], len(members["rows"])), (columns, count))
                 at = members["selected"]
                 self.assertEqual(at if at is None else [cell.strip() for cell in members["rows"][at]], found)
+
+
+    def test_wrong_table(self):
+        self.assertEqual(self.run_rlx("dial", "canada", "tor").returncode, 2)
 
 
 class Sizes(RlxTest):

@@ -75,6 +75,8 @@ TEST_F(Doctor, NamesFileAndLineOfEachFault) {
          "cities.wet:3 \"B:L\" is not in the list of cities.\n"},
         {"cities.lst", "3\n" + a + b + b, "cities.lst:4 \"B:L\" is there twice.\n"},
         {"cities.lst", "3\n" + a + b + "Z;C;L;1;2;3;0;0;0;0\n", "cities.lst:4 11 fields expected, 10 found.\n"},
+        {"cities.lst", "3\n" + a + b + "Z;C;L;;2;3;0;0;0;0;0\n", "cities.lst:4 Field 4 is empty.\n"},
+        {"cities.lst", "3\n" + a + b + Line("C", "1;2;3h;0;0;0;0;0"), "cities.lst:4 \"3h\" is not a whole number.\n"},
         {"cities.lst", "3\n" + a + b + Line("C", "1;91;3;0;0;0;0;0"),
          "cities.lst:4 The latitude is a number of degrees from -90 (south) to 90 (north).\n"},
         {"cities.lst", "3\n" + a + "Y;B;L;1;2;575;0;0;0;0;0\n" + Line("C", "1;2;3;1;0;0;0;0"),
@@ -82,6 +84,7 @@ TEST_F(Doctor, NamesFileAndLineOfEachFault) {
          "cities.lst:4 The days of change are days of the year from 1 to 366.\n"},
         {"cities.date", "2025-11-22\n",
          "cities.date:1 The daylight-saving rules are those of 2025. Refresh them from the menu.\n"},
+        {"cities.date", "soon", "cities.date:1 There is no date in it.\n"},
         {"cities.wet", "2\nA;L;a&l\nB;L;a&l\n",
          "cities.wet:2 The feed name \"a&l\" cannot travel in a request.\n"
          "cities.wet:3 \"a&l\" is there twice.\n"

@@ -125,6 +125,7 @@ TEST(ServerConfig, NamesWhatIsWrong) {
          "weather.from is no web address"},
         {R"({"weather": {"kind": "folder", "sample": 1}})", "weather.sample is neither true nor false"},
         {"{\"rates\": [{\"kind\": \"rss\", \"from\": \"a\"}]}", "rates[0].kind: \"rss\" is not known; ecb, daily"},
+        {"{\"rates\": [{\"kind\": 1}]}", "rates[0].kind is no text"},
         {"{\"news\": {\"kind\": \"folder\", \"form\": \"a\"}}", "news.form is not known"},
         {"{\"everyMinutes\": 0}", "everyMinutes must be a whole number from 1 to 10080"},
         {"{\"keep\": 5}", "keep is no text"},

@@ -65,6 +65,10 @@ TEST(WeatherFetch, ChecksBeforeItBelieves) {
     } rows[] = {
         {"a good one", {OpenMeteoReply()}, ""},
         {"another city", {replaced(OpenMeteoReply(), "2.36", "4.9")}, "a forecast of another position"},
+        {"from the future",
+         {OpenMeteoReply()},
+         "a forecast from 2026-11-22 on, which is in the future",
+         {{2026, 11, 19}}},
         {"of the past", {OpenMeteoReply()}, "a forecast up to 2026-11-24, which is past", {{2026, 11, 26}}},
         {"impossible values only",
          {R"({"daily_units":{"temperature_2m_max":"°C"},"daily":{"time":["2026-11-22"],"temperature_2m_max":[99]}})"},

@@ -189,5 +189,15 @@ TEST_F(Languages, FailedWritesLeaveEverythingAsItWas) {
     EXPECT_EQ(Start(7), LanguageState::kModule);
 }
 
+TEST_F(Languages, FoldersThatCannotBeWrittenAreNamed) {
+    files.readOnly.insert("/card");
+    EXPECT_EQ(Install(u"RoamlyNew.dll", true), InstallOutcome::kNotRemovable);
+    EXPECT_FALSE(files.IsFile("/app/LangsRes/RoamlyNew.dll"));
+    files.readOnly.insert("/app");
+    EXPECT_EQ(Install(u"RoamlyNew.dll"), InstallOutcome::kNotSaved);
+    EXPECT_FALSE(files.IsFile("/app/LangsRes/RoamlyNew.dll"));
+    EXPECT_EQ(List(), kList);
+}
+
 }  // namespace
 }  // namespace rlx

@@ -76,6 +76,7 @@ TEST(WeatherList, FollowsTheListOfCities) {
          {{}, u"P\u00E1ris:France"},
          "3\nBern;Switzerland;bern_switzerland\nParis;France;paris_france\nP\xE1ris;France;paris_france-2\n"},
         {"went", two, {u"Bern:Switzerland", {}}, "1\nParis;France;paris_france\n"},
+        {"went, but was not there", two, {u"Rome:Italy", {}}, two},
         {"renamed",
          two,
          {u"Paris:France", u"Lutetia:Gaul"},

@@ -34,6 +34,8 @@ TEST(Conversion, GivesTheResultFieldAsShown) {
         {u" 12,5 km", u"Hectogram", u"Megagram", u"0.0012"},
         {u"100", u"°C - Degree Celsius", u"Degree Reaumur", u"80"},
         {u"100", u"°C - Degree Celsius", u"Degree Rankine", u"671.67"},
+        {u"300", u"K - Kelvin", u"°C - Degree Celsius", u"26.85"},
+        {u"80", u"Degree Reaumur", u"°C - Degree Celsius", u"100"},
         {u"491.67", u"Degree Rankine", u"K - Kelvin", u"273.15"},
     };
     const test::CNumberTexts texts;
@@ -72,6 +74,8 @@ TEST(UnitSearch, ResolvesWholeNamesAndBeginnings) {
     test::CNumberTexts texts;
     EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Dram", u"Pony", {}), texts),
               u"{32944}Dram{40725}5 {32921}; 6 {32922}");
+    EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Mile", u"kilopond/square m", {}), texts),
+              u"{32944}kilopond/square m{40726}");
     EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Pound", u"dek", 5), texts), u"{32944}Pound{40723}");
     EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Stere", u"pip", 5), texts), u"{32944}pip{40724}Pipe [UK]; Pipe [US]");
 }

@@ -53,25 +53,6 @@ protected:
     CPackingOrganizer m_pack{m_folder, "/home", m_texts, m_boxes};
 };
 
-TEST_F(PackingOrganizerTest, ItemStandsInAllItemsOnce) {
-    MakeTrip();
-    EXPECT_TRUE(m_pack.AddItem(u"tent"));
-    m_pack.SelectList(2);
-    EXPECT_TRUE(m_pack.AddItem(u"tent"));
-    EXPECT_TRUE(m_pack.SetTicked(0, true));
-    EXPECT_FALSE(m_pack.AddItem(u"tent"));
-    EXPECT_EQ(Told(), u"{41016}tent{32945}");
-    EXPECT_TRUE(m_pack.AddItem(u"Tent"));
-    EXPECT_EQ(Items({1, 1}), u"tent");
-    EXPECT_EQ(Items({1, 2}), u"tent* Tent");
-    EXPECT_EQ(Items({1, 0}), u"tent Tent");
-    EXPECT_EQ(Items({0, 0}), u"tent Tent");
-
-    m_pack.SelectCategory(0);
-    EXPECT_TRUE(m_pack.AddItem(u"soap"));
-    EXPECT_EQ(Items({1, 0}), u"tent Tent");
-}
-
 TEST_F(PackingOrganizerTest, AddsToOtherListsAndTellsOnceWhatWasThere) {
     MakeTrip();
     ASSERT_TRUE(m_pack.AddItem(u"map"));

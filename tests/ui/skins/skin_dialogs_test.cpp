@@ -211,6 +211,19 @@ TEST_F(SkinDialogs, PicturesAndIconsComeFromTheSkinsFolders) {
     EXPECT_TRUE(boxes.shown.empty());
 }
 
+TEST_F(SkinDialogs, RefusalIsToldAndNothingIsWritten) {
+    std::string text = folder.Get("default.skn");
+    text.insert(text.find("[Tools]"), std::string(1499 - text.size(), 'x'));  // at the limit
+    folder.Put("default.skn", text);
+    auto editor = OpenEditor();
+    PickColour(*editor, SkinKey::kClocksCMD, "FFFFFF");  // one digit more
+    editor->Control<QPushButton>(kControlOk)->click();
+    ASSERT_EQ(boxes.shown.size(), 1U);
+    EXPECT_EQ(boxes.shown[0].text, u"The skin would be longer than 1,499 characters and was not saved.");
+    EXPECT_TRUE(editor->isVisible());
+    EXPECT_EQ(folder.Get("default.skn"), text);
+}
+
 /// The number follows the mark.
 TEST_F(SkinDialogs, ColourFollowsHandAndKeys) {
     std::vector<QColor> followed;
