@@ -11,10 +11,8 @@
 #include <new>
 #include <utility>
 
-#include "base/iso_day.h"
-#include "base/text.h"
+#include "feedserver/http_connection.h"
 #include "feedserver/request_deadlines.h"
-#include "feedserver/session_id.h"
 #include "feedserver/sleepers.h"
 
 namespace rlx {
@@ -28,68 +26,8 @@ struct Incoming {
     bool hasWaited = false;  ///< for a source; it is answered now, whatever there is
 };
 
-struct Outgoing {
-    unsigned status = 200;
-    std::string body;
-    std::vector<std::pair<std::string, std::string>> headers;
-    int code = 0;  ///< of the feed protocol, for the log
-};
-
 /// So much of a body that is too large is read, to answer a client that only erred; then it is dropped.
 constexpr std::size_t kMostDiscarded = 1 << 20;
-
-MHD_Result Queue(MHD_Connection* connection, const Outgoing& out) {
-    MHD_Response* response = MHD_create_response_from_buffer(out.body.size(), const_cast<char*>(out.body.data()),
-                                                             MHD_RESPMEM_MUST_COPY);  // copied, never written
-    if (response == nullptr) return MHD_NO;
-    for (const auto& [name, value] : out.headers)
-        MHD_add_response_header(response, name.c_str(), value.c_str());
-    const MHD_Result result = MHD_queue_response(connection, out.status, response);
-    MHD_destroy_response(response);
-    return result;
-}
-
-std::string SessionOf(MHD_Connection* connection) {
-    const char* known = MHD_lookup_connection_value(connection, MHD_COOKIE_KIND, "JSESSIONID");
-    return known != nullptr && IsSessionId(known) ? known : NewSessionId();
-}
-
-Outgoing Plain(unsigned status, std::string body) {
-    return {status, std::move(body), {{"Content-Type", "text/plain; charset=utf-8"}}};
-}
-
-Outgoing Health(const Knowledge& knowledge, const CWeatherSource* weather) {
-    std::string body = "rates " + std::to_string(knowledge.rates.size());
-    if (knowledge.ratesDate) body += " of " + Narrow(IsoDay(*knowledge.ratesDate)) + " from " + knowledge.ratesSource;
-    body += "\nnews " + (knowledge.news ? knowledge.news->id : std::string("none")) + "\n";
-    if (weather != nullptr) body += weather->Health() + "\n";
-    return Plain(knowledge.rates.empty() ? 503 : 200, std::move(body));
-}
-
-Outgoing Feed(MHD_Connection* connection, FeedAnswer answer) {
-    Outgoing out{200, std::move(answer.body), {}, answer.code};
-    // Clients find these by their place: the header behind the code begins with a capital C.
-    out.headers = {{"sessionId", SessionOf(connection) + "."},
-                   {"ServerMSG", std::to_string(answer.code)},
-                   {"Content-Type", "text/html; charset=iso-8859-1"},
-                   {"newsid", answer.newsId},
-                   {"Cache-Control", "no-store"}};
-    return out;
-}
-
-std::string ClientOf(MHD_Connection* connection) {
-    const MHD_ConnectionInfo* info = MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CLIENT_ADDRESS);
-    char text[INET6_ADDRSTRLEN] = "?";
-    if (info != nullptr && info->client_addr->sa_family == AF_INET)
-        inet_ntop(AF_INET, &reinterpret_cast<const sockaddr_in*>(info->client_addr)->sin_addr, text, sizeof text);
-    if (info != nullptr && info->client_addr->sa_family == AF_INET6)
-        inet_ntop(AF_INET6, &reinterpret_cast<const sockaddr_in6*>(info->client_addr)->sin6_addr, text, sizeof text);
-    return text;
-}
-
-int SocketOf(MHD_Connection* connection) {
-    return MHD_get_connection_info(connection, MHD_CONNECTION_INFO_CONNECTION_FD)->connect_fd;
-}
 
 /// A path as it may stand in a log: no control characters, not endless.
 std::string Printable(std::string_view text) {
@@ -186,27 +124,27 @@ private:
 
     MHD_Result Answer(MHD_Connection* connection, const char* url, const char* method, Incoming& incoming) {
         m_deadlines.Set(SocketOf(connection), m_limits.reply);
-        const std::optional<Outgoing> routed = Route(connection, url, method, incoming);
-        if (!routed) return MHD_YES;
-        const Outgoing& out = *routed;
-        const MHD_Result result = Queue(connection, out);
-        m_log(ClientOf(connection) + " " + Printable(method) + " " + Printable(url) + " " + std::to_string(out.status) +
-              " " + std::to_string(out.code) + " " + std::to_string(out.body.size()));
+        const std::optional<HttpAnswer> answer = Route(connection, url, method, incoming);
+        if (!answer) return MHD_YES;
+        const MHD_Result result = QueueAnswer(connection, *answer);
+        m_log(ClientOf(connection) + " " + Printable(method) + " " + Printable(url) + " " +
+              std::to_string(answer->status) + " " + std::to_string(answer->code) + " " +
+              std::to_string(answer->body.size()));
         return result;
     }
 
     /// Nothing when the connection was put to sleep: the same request comes again then.
-    std::optional<Outgoing> Route(MHD_Connection* connection, std::string_view url, std::string_view method,
-                                  Incoming& incoming) {
+    std::optional<HttpAnswer> Route(MHD_Connection* connection, std::string_view url, std::string_view method,
+                                    Incoming& incoming) {
         const std::shared_ptr<const Knowledge> knowledge = m_board.Get();
-        if (url == "/health" && (method == "GET" || method == "HEAD")) return Health(*knowledge, m_weather);
-        if (url != "/feed" && url != "/health") return Plain(404, "not here\n");
+        if (url == "/health" && (method == "GET" || method == "HEAD")) return HealthAnswer(*knowledge, m_weather);
+        if (url != "/feed" && url != "/health") return PlainAnswer(404, "not here\n");
         if (url != "/feed" || method != "POST") {
-            Outgoing out = Plain(405, "not so\n");
+            HttpAnswer out = PlainAnswer(405, "not so\n");
             out.headers.emplace_back("Allow", url == "/feed" ? "POST" : "GET, HEAD");
             return out;
         }
-        if (incoming.received > m_limits.bodyBytes) return Plain(413, "too large\n");
+        if (incoming.received > m_limits.bodyBytes) return PlainAnswer(413, "too large\n");
         const FeedQuestion question = ParseFeedQuestion(incoming.body);
         FeedAnswer answer = AnswerQuestion(question, *knowledge);
         if (m_weather != nullptr && question.job == FeedJob::kWeather) {
@@ -215,7 +153,7 @@ private:
             answer.code = reply->code;
             answer.body = std::move(reply->body);
         }
-        return Feed(connection, std::move(answer));
+        return FeedHttpAnswer(std::move(answer), SessionOf(connection));
     }
 
     std::optional<WeatherReply> AskWeather(MHD_Connection* connection, const std::string& city, Incoming& incoming) {
