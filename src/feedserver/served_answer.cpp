@@ -1,6 +1,7 @@
+#include "feedserver/served_answer.h"
+
 #include "base/iso_day.h"
 #include "base/text.h"
-#include "feedserver/http_answer.h"
 
 namespace rlx {
 
