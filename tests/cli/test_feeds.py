@@ -74,9 +74,10 @@ class Feeds(FeedTest):
         self.cities("2\nz;Paris;France;2.3;48.9;1;1;88;2;298;3\nz;Parma;Italy;10.3;44.8;1;1;88;2;298;3\n")
         self.answer("settings", "set", "ControlPanel\\Owner", "Owner", "--text", "Ann")
         self.answer("settings", "set", "Roamlytix", "hlname", "--text", "Parma")
-        parameters = self.answer("feed", "string", "weather:Pari")["parameters"]
-        self.assertTrue(parameters.startswith("did=Ann&jc=111&c='Paris'"), parameters)
-        self.assertIn("&home=Parma&scrsize=", parameters)
+        for kind, job in (("currency", "110"), ("news", "115"), ("weather:Pari", "111&c='Paris'")):
+            parameters = self.answer("feed", "string", kind)["parameters"]
+            self.assertTrue(parameters.startswith(f"did=Ann&jc={job}&"), parameters)
+            self.assertIn("&home=Parma&scrsize=", parameters)
         self.assertEqual(self.run_rlx("feed", "string", "tides").returncode, 2)
 
     def test_news(self):
