@@ -143,9 +143,7 @@ CScreen* CApplication::MakeMap() {
 void CApplication::ShowCityInformation(CityIndex city) {
     CCityTimes times(*m_cities, m_clock, m_resources, LoadClockSettings(*m_settings));
     const CitySunDetails details = SunDetailsOf(*m_cities, times, m_resources, city, m_clock.Now());
-    const MessageBox box{m_resources.Text(kTextCityInformation), CityInfoText(details, m_resources), BoxIcon::kNone,
-                         BoxButtons::kYesNo};
-    if (m_boxes.Show(box) == BoxAnswer::kYes) OpenSunDetails(details);
+    if (m_boxes.Show(CityInformationBox(details, m_resources)) == BoxAnswer::kYes) OpenSunDetails(details);
 }
 
 void CApplication::OpenSunDetails(const CitySunDetails& details) {
@@ -206,7 +204,7 @@ void CApplication::MakeCommands() {
     m_commands
         .Add(kCommandFullScreen, this,
              [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); })
-        ->setShortcut(QKeySequence::FullScreen);
+        ->setShortcuts({Qt::Key_F11});
     m_commands.Add(kCommandUpdateRates, this, [this] { m_feeds->UpdateRates(); });
     m_commands.Add(kCommandFetchNews, this, [this] { m_feeds->FetchNews(); });
     m_commands.Add(kCommandShowNews, this, [this] { m_feeds->ShowNews(); });

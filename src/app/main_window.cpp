@@ -50,6 +50,7 @@ CMainWindow::CMainWindow(const IClock& clock, const ITexts& texts)
     connect(&m_ticker, &CSecondTicker::Ticked, this, [this] {
         if (CScreen* screen = Current()) screen->Tick();
     });
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, m_titleBar, &CTitleBar::OpenMenu);
     connect(new QShortcut(QKeySequence::NextChild, this), &QShortcut::activated, this, [this] { StepScreen(1); });
     connect(new QShortcut(QKeySequence::PreviousChild, this), &QShortcut::activated, this, [this] { StepScreen(-1); });
     Arrange();
@@ -171,8 +172,9 @@ void CMainWindow::StepScreen(int by) {
 
 void CMainWindow::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
-    // Behind the first frame: nobody waits for screens that are not seen.
-    if (!std::exchange(m_painted, true)) QTimer::singleShot(0, this, &CMainWindow::MakeNextScreen);
+    // Behind the first frame: nobody waits for screens that are not seen, and what a screen has to say at first must
+    // not come before it, nor before the window stands at its place, over which boxes appear.
+    if (!std::exchange(m_seen, true)) QTimer::singleShot(0, this, &CMainWindow::BeSeen);
 }
 
 void CMainWindow::resizeEvent(QResizeEvent* /*event*/) {
@@ -181,12 +183,13 @@ void CMainWindow::resizeEvent(QResizeEvent* /*event*/) {
 
 void CMainWindow::showEvent(QShowEvent* event) {
     RunTickerWhenSeen();
-    if (event->spontaneous()) return;
-    // Once the window stands there: what a screen has to say at first must not come before it.
-    QTimer::singleShot(0, this, [this] {
-        if (const auto ask = std::exchange(m_askFirst, nullptr)) ask();
-        if (CScreen* screen = Current()) screen->Entered();
-    });
+    if (!event->spontaneous()) m_seen = false;
+}
+
+void CMainWindow::BeSeen() {
+    QTimer::singleShot(0, this, &CMainWindow::MakeNextScreen);
+    if (const auto ask = std::exchange(m_askFirst, nullptr)) ask();
+    if (CScreen* screen = Current()) screen->Entered();
 }
 
 void CMainWindow::hideEvent(QHideEvent* /*event*/) {

@@ -98,6 +98,7 @@ private:
     };
 
     RowForm Form() const;
+    void BeSeen();
     void MakeNextScreen();
     void Arrange();
     void RunTickerWhenSeen();
@@ -113,7 +114,7 @@ private:
     std::vector<Slot> m_screens;
     int m_current = -1;
     int m_inRow = 0;
-    bool m_painted = false;
+    bool m_seen = false;  ///< painted since it was shown
     std::function<void()> m_askFirst;
 };
 

@@ -20,6 +20,7 @@ public:
 
     void SetTitle(const QString& title);
     void SetMenu(QMenu* menu, const QString& name);
+    void OpenMenu() { m_menu->showMenu(); }
 
     /// The button of the News page; `fresh` marks it.
     void SetNews(bool fresh, const QString& name);

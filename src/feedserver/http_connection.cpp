@@ -8,7 +8,7 @@
 
 namespace rlx {
 
-MHD_Result QueueAnswer(MHD_Connection* connection, const HttpAnswer& answer) {
+MHD_Result QueueAnswer(MHD_Connection* connection, const ServedAnswer& answer) {
     MHD_Response* response = MHD_create_response_from_buffer(answer.body.size(), const_cast<char*>(answer.body.data()),
                                                              MHD_RESPMEM_MUST_COPY);  // copied, never written
     if (response == nullptr) return MHD_NO;

@@ -4,12 +4,12 @@
 
 #include <string>
 
-#include "feedserver/http_answer.h"
+#include "feedserver/served_answer.h"
 
 namespace rlx {
 
 /// Hands an answer over to be sent.
-MHD_Result QueueAnswer(MHD_Connection* connection, const HttpAnswer& answer);
+MHD_Result QueueAnswer(MHD_Connection* connection, const ServedAnswer& answer);
 
 /// The session that the client names, or a new one.
 std::string SessionOf(MHD_Connection* connection);

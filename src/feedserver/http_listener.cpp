@@ -124,7 +124,7 @@ private:
 
     MHD_Result Answer(MHD_Connection* connection, const char* url, const char* method, Incoming& incoming) {
         m_deadlines.Set(SocketOf(connection), m_limits.reply);
-        const std::optional<HttpAnswer> answer = Route(connection, url, method, incoming);
+        const std::optional<ServedAnswer> answer = Route(connection, url, method, incoming);
         if (!answer) return MHD_YES;
         const MHD_Result result = QueueAnswer(connection, *answer);
         m_log(ClientOf(connection) + " " + Printable(method) + " " + Printable(url) + " " +
@@ -134,13 +134,13 @@ private:
     }
 
     /// Nothing when the connection was put to sleep: the same request comes again then.
-    std::optional<HttpAnswer> Route(MHD_Connection* connection, std::string_view url, std::string_view method,
-                                    Incoming& incoming) {
+    std::optional<ServedAnswer> Route(MHD_Connection* connection, std::string_view url, std::string_view method,
+                                      Incoming& incoming) {
         const std::shared_ptr<const Knowledge> knowledge = m_board.Get();
         if (url == "/health" && (method == "GET" || method == "HEAD")) return HealthAnswer(*knowledge, m_weather);
         if (url != "/feed" && url != "/health") return PlainAnswer(404, "not here\n");
         if (url != "/feed" || method != "POST") {
-            HttpAnswer out = PlainAnswer(405, "not so\n");
+            ServedAnswer out = PlainAnswer(405, "not so\n");
             out.headers.emplace_back("Allow", url == "/feed" ? "POST" : "GET, HEAD");
             return out;
         }
@@ -153,7 +153,7 @@ private:
             answer.code = reply->code;
             answer.body = std::move(reply->body);
         }
-        return FeedHttpAnswer(std::move(answer), SessionOf(connection));
+        return ServedFeedAnswer(std::move(answer), SessionOf(connection));
     }
 
     std::optional<WeatherReply> AskWeather(MHD_Connection* connection, const std::string& city, Incoming& incoming) {

@@ -48,4 +48,10 @@ std::u16string CityInfoText(const CitySunDetails& details, const ITexts& texts) 
            u"\n" + line(kTextDstStartEnd, details.dstStartEnd) + u"\nGmt: " + details.gmtText;
 }
 
+MessageBox CityInformationBox(const CitySunDetails& details, const ITexts& texts) {
+    MessageBox box{texts.Text(kTextCityInformation), CityInfoText(details, texts), BoxIcon::kNone, BoxButtons::kYesNo};
+    box.question = texts.Text(kTextAskSunDetails);
+    return box;
+}
+
 }  // namespace rlx

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "places/city_times.h"
+#include "platform/message_boxes.h"
 
 namespace rlx {
 
@@ -28,5 +29,8 @@ CitySunDetails SunDetailsOf(CCityDatabase& cities, CCityTimes& times, const ITex
 
 /// The text of the "City information" box, one line for each fact.
 std::u16string CityInfoText(const CitySunDetails& details, const ITexts& texts);
+
+/// The box with that text; Yes leads to the city's sun.
+MessageBox CityInformationBox(const CitySunDetails& details, const ITexts& texts);
 
 }  // namespace rlx

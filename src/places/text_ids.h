@@ -84,5 +84,6 @@ inline constexpr TextId kTextChangeCity = 40194;
 inline constexpr TextId kTextDstPeriod = 40195;
 inline constexpr TextId kTextForecastListNotChanged = 40196;
 inline constexpr TextId kTextNameTooLong = 40197;
+inline constexpr TextId kTextAskSunDetails = 40198;
 
 }  // namespace rlx

@@ -13,6 +13,8 @@ struct MessageBox {
     std::u16string text;
     BoxIcon icon = BoxIcon::kNone;
     BoxButtons buttons = BoxButtons::kOk;
+    BoxAnswer onEnter = BoxAnswer::kNo;  ///< which of two buttons the Enter key presses
+    std::u16string question = {};  ///< stands below the text in the window, where the buttons alone say too little
 
     friend bool operator==(const MessageBox&, const MessageBox&) = default;
 };

@@ -51,6 +51,7 @@ BoxAnswer CQtMessageBoxes::ShowBox(const MessageBox& box, QCheckBox* check) {
     QMessageBox dialog(IconOf(box.icon), ToQString(box.title), ToQString(box.text), QMessageBox::NoButton, m_owner);
     dialog.setObjectName("messageBox");
     dialog.setTextFormat(Qt::PlainText);
+    dialog.setInformativeText(ToQString(box.question));
     dialog.setCheckBox(check);
     if (box.buttons == BoxButtons::kOk) {
         QPushButton* ok = dialog.addButton(ToQString(m_texts.Text(kTextOk)), QMessageBox::AcceptRole);
@@ -64,7 +65,7 @@ BoxAnswer CQtMessageBoxes::ShowBox(const MessageBox& box, QCheckBox* check) {
     QPushButton* no = dialog.addButton(ToQString(m_texts.Text(kTextNo)), QMessageBox::NoRole);
     yes->setObjectName("yes");
     no->setObjectName("no");
-    dialog.setDefaultButton(no);
+    dialog.setDefaultButton(box.onEnter == BoxAnswer::kYes ? yes : no);
     dialog.setEscapeButton(no);
     dialog.exec();
     if (check != nullptr) check->setParent(nullptr);  // the caller's, not the box's

@@ -187,8 +187,18 @@ void CTemplateDialog::ConnectButtons() {
         connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
+/// Rows of which nothing is shown leave their share of the room to the others.
+void CTemplateDialog::GiveRoomToWhatIsSeen() {
+    auto* column = qobject_cast<QVBoxLayout*>(layout());
+    for (int row = 0; column != nullptr && row < column->count(); ++row) {
+        const QLayout* line = column->itemAt(row)->layout();
+        if (line != nullptr && line->isEmpty()) column->setStretch(row, 0);
+    }
+}
+
 void CTemplateDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
+    GiveRoomToWhatIsSeen();
     const QWidget* window = parentWidget() != nullptr ? parentWidget()->window() : nullptr;
     const QRect room = window != nullptr ? window->geometry() : screen()->availableGeometry();
     if (room.width() < kSmallScreen || room.height() < kSmallScreen) {

@@ -32,6 +32,7 @@ private:
     QWidget* MakeControl(const DialogControl& control);
     void LayOut(const DialogTemplate& dialog);
     void ConnectButtons();
+    void GiveRoomToWhatIsSeen();
 
     std::map<int, QWidget*> m_controls;
 };

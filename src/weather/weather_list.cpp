@@ -25,7 +25,7 @@ std::optional<List> Read(IFileSystem& files, const std::filesystem::path& file) 
     std::size_t at = 0;
     const auto line = [&] {
         const std::size_t end = std::min(text.find(u'\n', at), text.size());
-        const std::u16string found = text.substr(at, end - at);
+        std::u16string found = text.substr(at, end - at);
         at = std::min(end + 1, text.size());
         return found;
     };

@@ -1,6 +1,5 @@
 #include <cstdlib>
 
-#include "platform/posix/frozen_clock.h"
 #include "platform/posix/system_clock.h"
 
 namespace rlx {
@@ -67,18 +66,6 @@ TEST(SystemClock, KnowsWhenItShowsATime) {
                 {"just after it went back", {{2026, 10, 25}, 3, 0, 0, 0}, {{2026, 10, 25}, 2, 0, 0, 0}}};
     for (const auto& row : rows)
         EXPECT_EQ(CSystemClock().UtcOf(row.local), row.utc) << row.what;
-}
-
-TEST(FrozenClock, ReplacesOnlyWhatIsGiven) {
-    const DateTime fixed{.date = {2024, 2, 29}, .hour = 23};
-    const CSystemClock system;
-    const CFrozenClock both(system, fixed, -330);
-    EXPECT_EQ(both.Now(), fixed);
-    EXPECT_EQ(both.StandardBias(), -330);
-    const CFrozenClock outer(both, std::nullopt, 60);
-    EXPECT_EQ(outer.Now(), fixed);
-    EXPECT_EQ(outer.StandardBias(), 60);
-    EXPECT_EQ(CFrozenClock(both, DateTime{}, std::nullopt).StandardBias(), -330);
 }
 
 }  // namespace

@@ -1,10 +1,5 @@
-#include <signal.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
-
-#include <algorithm>
 
 #include "platform/fake/memory_file_system.h"
 #include "platform/posix/posix_file_system.h"
@@ -108,22 +103,6 @@ TEST_P(FileSystemContract, ListsCopiesMovesAndRemoves) {
 INSTANTIATE_TEST_SUITE_P(, FileSystemContract, testing::Values("posix", "memory"),
                          [](const auto& row) { return std::string(row.param); });
 
-TEST(MemoryFileSystem, RefusesTheWritesOfThePlanAndReadOnlyFolders) {
-    CFailurePlan plan;
-    CMemoryFileSystem files(plan);
-    files.files["/app/pack.dat"] = "old";
-    plan.FailAt(2);
-    EXPECT_TRUE(files.WriteFile("/app/a", "1"));
-    EXPECT_FALSE(files.WriteFile("/app/pack.dat", "new"));
-    EXPECT_EQ(files.ReadFile("/app/pack.dat", 10), "old");
-    EXPECT_TRUE(files.WriteFile("/app/pack.dat", "new"));
-    EXPECT_EQ(plan.Seen(), 3);
-    files.readOnly.insert("/app");
-    EXPECT_FALSE(files.WriteFile("/app/b", ""));
-    EXPECT_FALSE(files.IsWritableFolder("/app/"));
-    EXPECT_TRUE(files.IsFile("/app/sub/../a"));
-}
-
 class PosixFileSystem : public testing::Test {
 protected:
     static mode_t Mode(const fs::path& file) {
@@ -166,48 +145,6 @@ TEST_F(PosixFileSystem, PipesAndDevicesAreNoFilesAndNobodyWaitsForThem) {
     }
     EXPECT_FALSE(m_files.WriteFile(m_folder / "pipe", "x"));
     EXPECT_FALSE(m_files.IsFile(m_folder / "pipe"));
-}
-
-TEST_F(PosixFileSystem, AFullDiskLeavesTheOldFileAndNothingElse) {
-    m_folder.Put("f", "old");
-    m_folder.Put("large", std::string(100000, 'l'));
-    const pid_t child = fork();
-    if (child == 0) {
-        signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{50000, 50000};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        const bool written = m_files.WriteFile(m_folder / "f", std::string(60000, 'n'));
-        _exit(written || m_files.CopyFile(m_folder / "large", m_folder / "f") ? 1 : 0);
-    }
-    int status = -1;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
-    EXPECT_EQ(m_folder.Get("f"), "old");
-    EXPECT_EQ(std::distance(fs::directory_iterator(m_folder.Path()), {}), 2) << "no temporary file is left";
-}
-
-TEST_F(PosixFileSystem, AKillAtAnyInstantLeavesOldOrNewBytes) {
-    const std::string contents[] = {std::string(300000, 'a'), std::string(300000, 'b')};
-    m_folder.Put("f", contents[0]);
-    for (int round = 0; round < 8; ++round) {
-        int told[2];
-        ASSERT_EQ(pipe(told), 0);
-        const pid_t child = fork();
-        if (child == 0) {
-            for (int i = 1;; ++i) {
-                if (!m_files.WriteFile(m_folder / "f", contents[i % 2]) || write(told[1], "x", 1) != 1) _exit(1);
-            }
-        }
-        char byte = 0;
-        for (int i = 0; i <= round; ++i)
-            ASSERT_EQ(read(told[0], &byte, 1), 1);
-        kill(child, SIGKILL);
-        waitpid(child, nullptr, 0);
-        close(told[0]);
-        close(told[1]);
-        const std::string found = m_folder.Get("f");
-        EXPECT_TRUE(found == contents[0] || found == contents[1]);
-    }
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include "platform/fake/failing_object_store.h"
 #include "platform/fake/fixed_clock.h"
 #include "platform/sqlite/device_store.h"
 #include "support/temp_folder.h"
@@ -184,27 +183,6 @@ TEST_F(ObjectStore, LastModifiedFollowsTheDeviceClock) {
     EXPECT_EQ(m_db->LastModified(), made - 7200) << "a refused write and a setting are no change";
     m_db->Delete(id);
     EXPECT_EQ(m_db->LastModified(), made - 7190);
-}
-
-TEST_F(ObjectStore, ABuildThatFailsAtAnyWriteLeavesNothing) {
-    CFailurePlan plan;
-    CFailingObjectStore failing(Objects(), plan);
-    const auto build = [&failing] {
-        if (!failing.Create(u"built", 1, {kName})) return false;
-        const auto db = failing.Open(u"built");
-        const auto a = db->Add({{kName, u"a"}});
-        const auto b = db->Add({{kName, u"b"}});
-        return a && b && db->Overwrite(*a, {{kName, u"c"}}) && db->Delete(*b);
-    };
-    for (int write = 1; write <= 5; ++write) {
-        plan.FailAt(write);
-        EXPECT_FALSE(failing.Transact(build)) << write;
-        EXPECT_EQ(Objects().Open(u"built"), nullptr) << write;
-    }
-    plan.FailAt(0);
-    EXPECT_TRUE(failing.Transact(build));
-    EXPECT_EQ(Order(*failing.Open(u"built")), u"c ");
-    EXPECT_EQ(failing.Open(u"none"), nullptr);
 }
 
 }  // namespace

@@ -12,33 +12,21 @@ TEST(Number, ReadsWhatTheCLocaleReads) {
         const char16_t* text;
         double value;
     } rows[] = {
-        {u"12abc", 12},
         {u"  -3.5e2x", -350},
-        {u"+7", 7},
         {u"+-7", 0},
         {u"", 0},
         {u".5", 0.5},
-        {u"5.", 5},
         {u"1e", 1},
         {u"1e+", 1},
         {u"0,018927059", 0},
         {u"907,18474", 907},
         {u"1.0e-20", 1e-20},
         {u"0x1F", 31},
-        {u"0x", 0},
-        {u"0xg", 0},
         {u"1e400", INFINITY},
-        {u"-1e400", -INFINITY},
-        {u"1e-400", 0},
         {u"inf", INFINITY},
         {u"\u00A05", 0},
         {u"4.9406564584124654e-324", 4.9406564584124654e-324},
-        {u"--5", 0},
-        {u"\t\n 8", 8},
-        {u"0.0000000000000000000000000001", 1e-28},
         {u"\u0665", 0},
-        {u"- 5", 0},
-        {u"22379523000000000000000", 2.2379523e22},
     };
     for (const auto& row : rows)
         EXPECT_EQ(ParseNumber(row.text), row.value) << row.value;
@@ -50,9 +38,7 @@ TEST(Number, ReadsWhatTheCLocaleReads) {
 
 TEST(Number, IntegersStopAndClamp) {
     EXPECT_EQ(ParseInteger(u" -330;"), -330);
-    EXPECT_EQ(ParseInteger(u"5x"), 5);
     EXPECT_EQ(ParseInteger(u"x5"), 0);
-    EXPECT_EQ(ParseInteger(u"-"), 0);
     EXPECT_EQ(ParseInteger(std::u16string(400, u'9')), 2147483647);
     EXPECT_EQ(ParseInteger(u"-99999999999"), -2147483647 - 1);
     EXPECT_EQ(ParseWholeInteger(u"12", 0, 12), 12);
@@ -75,7 +61,6 @@ TEST(Number, FormatsAsPrintf) {
     EXPECT_EQ(FormatGeneral(INFINITY, 15), u"inf");
     EXPECT_EQ(FormatFixed(-INFINITY, 2), u"-inf");
     EXPECT_EQ(FormatTwoDigits(-1), u"0-1");
-    EXPECT_EQ(FormatTwoDigits(-30), u"0-30");
     EXPECT_EQ(FormatTwoDigits(9), u"09");
     EXPECT_EQ(FormatTwoDigits(10), u"10");
 }

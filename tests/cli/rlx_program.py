@@ -49,7 +49,8 @@ class RlxTest(unittest.TestCase):
         return members
 
 
-class _Handler(http.server.BaseHTTPRequestHandler):
+class FeedHandler(http.server.BaseHTTPRequestHandler):
+    """Gives the server's `answer`: code, page and status."""
     protocol_version = "HTTP/1.1"
 
     def do_POST(self):
@@ -72,7 +73,7 @@ class FeedTest(RlxTest):
 
     def setUp(self):
         super().setUp()
-        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), _Handler)
+        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), FeedHandler)
         self.server.requests = []
         thread = threading.Thread(target=self.server.serve_forever, args=(0.01,))
         thread.start()

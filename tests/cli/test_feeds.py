@@ -40,18 +40,13 @@ class Feeds(FeedTest):
         self.assertEqual([cookie for _, cookie in self.server.requests], [None, "JSESSIONID=s1"])
 
     def test_update_that_fails_keeps_the_rates(self):
-        rows = [
-            ("offline", "1005", b"EUR_9#", ["--yes", "--offline"], [CANNOT_UPDATE, SYNC_FAILED], 0),
-            ("refused by the user", "1005", b"EUR_9#", ["--no"], [CONFIRMATION, CANNOT_UPDATE, SYNC_FAILED], 0),
-        ]
-        for name, code, page, options, messages, requests in rows:
-            with self.subTest(name):
-                self.server.requests.clear()
-                self.serve(page, code)
-                answer = self.answer(*options, "rates", "update", status=1, messages=messages)
-                self.assertEqual(self.rates(answer)["EUR"], "0.8")
-                self.assertEqual(answer["updated"], "1/7/2026")
-                self.assertEqual(len(self.server.requests), requests)
+        self.serve(b"EUR_9#")
+        rows = [(["--yes", "--offline"], [CANNOT_UPDATE, SYNC_FAILED]),
+                (["--no"], [CONFIRMATION, CANNOT_UPDATE, SYNC_FAILED])]
+        for options, messages in rows:
+            answer = self.answer(*options, "rates", "update", status=1, messages=messages)
+            self.assertEqual((self.rates(answer)["EUR"], answer["updated"]), ("0.8", "1/7/2026"))
+            self.assertEqual(self.server.requests, [])
 
     def test_no_address(self):
         (self.home / "adrs.cfg").unlink()
@@ -65,9 +60,7 @@ class Feeds(FeedTest):
         self.assertEqual(answer["text"], "0.00006250")
         self.answer("rates", "convert", "1", "usd", "abc", status=1,
                     messages=['No currency has the code or name "abc".'])
-        wrong = self.run_rlx("rates", "convert", "many", "usd", "eur")
-        self.assertEqual(wrong.returncode, 2)
-        self.assertIn(b'"many" is not an amount', wrong.stderr)
+        self.assertEqual(self.run_rlx("rates", "convert", "many", "usd", "eur").returncode, 2)
         self.answer("rates", "convert", "1", "usd", "xxx", status=1, messages=["XXX: rate unknown"])
 
     def test_post(self):
@@ -79,17 +72,11 @@ class Feeds(FeedTest):
 
     def test_parameter_strings(self):
         self.cities("2\nz;Paris;France;2.3;48.9;1;1;88;2;298;3\nz;Parma;Italy;10.3;44.8;1;1;88;2;298;3\n")
-        (self.home / "cities.wet").write_text("1\nParis:France;paris_fr;\n")
         self.answer("settings", "set", "ControlPanel\\Owner", "Owner", "--text", "Ann")
         self.answer("settings", "set", "Roamlytix", "hlname", "--text", "Parma")
-        rows = [("currency", "did=Ann&jc=110&os=wince", "0x0"), ("news", "did=Ann&jc=115&cnid=&os=wince", "&'0'"),
-                ("weather:Pari", "did=Ann&jc=111&c='", "&'0'")]
-        for kind, begin, end in rows:
-            with self.subTest(kind):
-                parameters = self.answer("feed", "string", kind)["parameters"]
-                self.assertTrue(parameters.startswith(begin), parameters)
-                self.assertTrue(parameters.endswith(end), parameters)
-                self.assertIn("&home=Parma&scrsize=", parameters)
+        parameters = self.answer("feed", "string", "weather:Pari")["parameters"]
+        self.assertTrue(parameters.startswith("did=Ann&jc=111&c='Paris'"), parameters)
+        self.assertIn("&home=Parma&scrsize=", parameters)
         self.assertEqual(self.run_rlx("feed", "string", "tides").returncode, 2)
 
     def test_news(self):

@@ -60,15 +60,12 @@ class Pack(RlxTest):
         trip = ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat1"), ("bag",))
         rows = (  # words, messages, categories afterwards
             ("tick|Trip|Bag|Hat", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat1", "hat1"), ("bag",))]),
-            ("untick|All|All Items|Hat", [], [("All", ("All Items", "Map0", "Hat0"), ("Desk", "Map1")), trip]),
-            ("uncheck|Trip|Bag", [], [everything, ("Trip", ("All Items", "Hat0"), ("Bag", "Hat0", "hat0"), ("bag",))]),
-            ("delete-item|Trip|Bag|HAT", [], [everything, ("Trip", trip[1], ("Bag", "hat1"), ("bag",))]),
             ("delete-list|Trip|BAG", [], [everything, ("Trip", ("All Items", "Hat0"), ("bag",))]),
+            ("untick|All|All Items|Hat", [], [("All", ("All Items", "Map0", "Hat0"), ("Desk", "Map1")), trip]),
+            ("delete-item|Trip|Bag|HAT", [], [everything, ("Trip", trip[1], ("Bag", "hat1"), ("bag",))]),
             ("delete-category|TRIP", [], [everything]),
             ("clear|Trip|Bag", [], [everything, ("Trip", trip[1], ("Bag",), ("bag",))]),
             ("clear|Trip|All Items|--yes", [CLEAR_CATEGORY], [everything, ("Trip", ("All Items",), ("Bag",), ("bag",))]),
-            ("clear|All|All Items|--yes", [CLEAR_EVERYTHING],
-             [("All", ("All Items",), ("Desk",)), ("Trip", ("All Items",), ("Bag",), ("bag",))]),
         )
         for words, messages, after in rows:
             with self.subTest(words):
@@ -78,15 +75,12 @@ class Pack(RlxTest):
 
     def test_refusals_write_nothing(self):
         rows = (
-            ("add-category|trip", "Category < trip > already exists!"), ("add-category|", BAD_NAME),
-            ("add-category|" + "n" * 51, BAD_NAME), ("add-list|Trip|a\nb", BAD_NAME),
+            ("add-category|trip", "Category < trip > already exists!"), ("add-category|" + "n" * 51, BAD_NAME),
             ("add-list|Trip|BAG", "List < BAG > already exists!"), ("add-list|No|x", MISSING.format("Category", "No")),
             ("add-item|Trip|Bag|Hat", "Item < Hat > already exists!"), ("add-item|Trip|Bag|*", BAD_ITEM),
             ("add-item|Trip|No|x", MISSING.format("List", "No")), ("tick|Trip|Bag|No", MISSING.format("Item", "No")),
-            ("delete-item|Trip|bag|Hat", MISSING.format("Item", "Hat")),
             ("delete-category|all", "Can't delete <All> category!"),
             ("delete-list|Trip|All Items", "Can't delete <All Items> List!"),
-            ("delete-list|Trip|No", MISSING.format("List", "No")), ("uncheck|No|x", MISSING.format("Category", "No")),
             ("clear|Trip|All Items", CLEAR_CATEGORY), ("clear|All|All Items|--no", CLEAR_EVERYTHING),
         )
         self.trip()
@@ -97,31 +91,20 @@ class Pack(RlxTest):
                 self.assertEqual((self.file.read_bytes(), self.backup.exists()), (before, False))
 
     def test_no_more_than_fits(self):
-        for what, first, message in (("category", 1, "Max. of categories reached!"), ("list", 1, "Max. of lists reached!")):
-            words = ["pack", f"add-{what}", *(["All"] if what == "list" else [])]
-            for number in range(first, 10):
+        for words, message in ((["add-category"], "Max. of categories reached!"), (["add-list", "All"], "Max. of lists reached!")):
+            words = ["pack", *words]
+            for number in range(1, 10):
                 self.answer(*words, f"n{number}")
             before = self.file.read_bytes()
             self.answer(*words, "n10", status=1, messages=[message])
             self.assertEqual(self.file.read_bytes(), before)
 
-    def test_file_that_cannot_be_replaced(self):
-        self.file.mkdir()
-        self.answer("pack", "add-category", "Trip", status=1,
-                    messages=["The packing list could not be saved. The old file is unchanged."])
-        self.assertEqual(list(self.home.iterdir()), [self.file])
-
 
 class Tip(RlxTest):
     def test_answers(self):
-        rows = (  # words, first amount, second amount, total
-            ("100 --first 15 --second 8 --no-first", "= 15.00", "= 8.00", "108.00"),
-            ("100 --no-second --first 15 --second 8", "= 15.00", "= 8.00", "115.00"),
-            ("-0.5 --first 0", "= -0.00", "= -0.00", "-0.50"))
-        for words, first, second, total in rows:
-            with self.subTest(words):
-                self.assertEqual(self.answer("tip", *words.split()),
-                                 {"firstAmount": first, "secondAmount": second, "total": total})
+        for words, total in (("--no-first", "108.00"), ("--no-second", "115.00")):
+            self.assertEqual(self.answer("tip", "100", "--first", "15", "--second", "8", words),
+                             {"firstAmount": "= 15.00", "secondAmount": "= 8.00", "total": total})
         self.assertEqual(list(self.folder.iterdir()), [self.home])
 
     def test_refused_rate_counts_as_before(self):

@@ -17,8 +17,7 @@ class Show(RlxTest):
     def test_lookups(self):
         file, section = self.folder / "a.skn", "[A]\r\nN@Nächte\r\n"
         file.write_bytes(b"[A]\r\nN@N\xe4chte\r\n>*")
-        for words, members in (("A N", (section, "Nächte")), ("A M", (section, "!.!")), ("B N", ("!.!", "!.!")),
-                               ("A", (section, None))):
+        for words, members in (("A N", (section, "Nächte")), ("B N", ("!.!", "!.!")), ("A", (section, None))):
             self.assertEqual(self.answer("skin", "show", file, *words.split()), dict(zip(("section", "value"), members)))
         self.assertEqual(self.run_rlx("skin", "show", file, "A", "N").stdout.decode(), "Nächte\n")
         self.answer("skin", "show", "none.skn", "Map", status=1, messages=['"none.skn" could not be read.'])
@@ -40,11 +39,7 @@ class Skins(RlxTest):
 
     def test_checks(self):
         self.assertEqual(self.answer("skin", "check", self.file), {"valid": True, "faults": []})
-        self.file.write_bytes(self.text.replace(b"CMD", b"XXX").replace(b"FBBC@", b"FBBC@-"))
-        answer = self.answer("skin", "check", self.file)
-        self.assertEqual((answer["valid"], len(answer["faults"])), (False, 3))
-        self.file.unlink()
-        self.assertEqual(self.answer("skin", "check", self.file),
+        self.assertEqual(self.answer("skin", "check", self.home / "none.skn"),
                          {"valid": False, "faults": ["The skin file cannot be opened."]})
 
     def test_list_names_the_invalid_with_their_reasons(self):
@@ -70,11 +65,6 @@ class Skins(RlxTest):
             self.answer("skin", "use", self.night)
             self.answer("skin", "use", word)
             self.assertEqual(self.stored(), "default", word)
-        odd = self.home / "a\\b.skn"
-        odd.write_bytes(self.text)
-        self.answer("skin", "use", odd, status=1, messages=[
-            f'The path "{odd}" cannot be kept in the settings: it holds a backslash or is not UTF-8.'])
-        self.assertEqual(self.stored(), "default")
 
 
 if __name__ == "__main__":

@@ -35,16 +35,12 @@ struct Row {
 };
 
 const Row kRows[] = {
-    {"winter", kTokyo, kHomeAmsterdam, At(11, 24, 9, 0), At(11, 24, 1, 0)},
     {"summer of home", kTokyo, kHomeAmsterdam, At(7, 1, 5, 0), At(6, 30, 22, 0)},
     {"summer of both", kNewYork, kHomeAmsterdam, At(7, 1, 20, 0), At(7, 2, 2, 0)},
     {"city changed, home not yet", kNewYork, kHomeAmsterdam, At(3, 20, 9, 0), At(3, 20, 14, 0)},
-    {"half hours", kKolkata, kHomeAmsterdam, At(1, 10, 4, 15), At(1, 9, 23, 45)},
     {"half hours and summer", kAdelaide, kHomeAmsterdam, At(12, 31, 9, 30), At(12, 31, 0, 0)},
-    {"home's own clock", kAmsterdam, kHomeAmsterdam, At(10, 25, 2, 30), At(10, 25, 2, 30)},
     {"before the city goes forward", kSydney, kHomeAmsterdam, At(10, 4, 9, 59), At(10, 4, 1, 59)},
     {"city goes forward", kSydney, kHomeAmsterdam, At(10, 4, 10, 30), At(10, 4, 2, 30), TimeOnClock::kSkipped},
-    {"after the city went forward", kSydney, kHomeAmsterdam, At(10, 4, 11, 0), At(10, 4, 2, 0)},
     {"city goes back", kNewYork, kHomeAmsterdam, At(10, 31, 20, 30), At(11, 1, 1, 30), TimeOnClock::kTwice},
     {"a southern summer ends with the year",
      kSydney,
@@ -53,11 +49,9 @@ const Row kRows[] = {
      At(12, 31, 23, 30),
      TimeOnClock::kTwice},
     {"home goes forward", kTokyo, kHomeAmsterdam, At(3, 29, 9, 30), At(3, 29, 1, 30)},
-    {"home has gone forward", kTokyo, kHomeAmsterdam, At(3, 29, 10, 30), At(3, 29, 3, 30)},
     {"home leaves it out", kAmsterdam, kHomeAmsterdam, At(3, 29, 2, 30), At(3, 29, 3, 30), TimeOnClock::kSkipped},
     {"home's hour, the first time", kTokyo, kHomeAmsterdam, At(10, 25, 9, 30), At(10, 25, 2, 30)},
     {"home's hour, again", kTokyo, kHomeAmsterdam, At(10, 25, 10, 30), At(10, 25, 2, 30), TimeOnClock::kOnce, 3600},
-    {"home has gone back", kTokyo, kHomeAmsterdam, At(10, 25, 11, 30), At(10, 25, 3, 30)},
     {"southern home has gone forward", kTokyo, kHomeSydney, At(10, 4, 2, 30), At(10, 4, 4, 30)},
     {"the device's zone knows no summer", kTokyo, kDeviceParis, At(7, 1, 9, 0), At(7, 1, 1, 0)},
     {"the device's zone with half hours", kTokyo, kDeviceKolkata, At(7, 1, 9, 0), At(7, 1, 4, 30)},

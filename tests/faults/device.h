@@ -15,6 +15,7 @@
 #include "places/city_list_store.h"
 #include "platform/fake/fake_connection_manager.h"
 #include "platform/fake/fixed_clock.h"
+#include "platform/fake/scripted_message_boxes.h"
 #include "platform/registry_value.h"
 #include "shell/application_folder.h"
 #include "shell/language_install.h"
@@ -22,7 +23,6 @@
 #include "shell/resources.h"
 #include "shell/setting_names.h"
 #include "skins/skin_draft.h"
-#include "support/recorded_boxes.h"
 #include "tools/converter/unit_database.h"
 #include "tools/packing/packing_file.h"
 #include "tools/packing/packing_store.h"
@@ -99,6 +99,7 @@ public:
     explicit CDevice(const DevicePorts& ports) : m_ports(ports), m_root(ports.root), m_files(ports.files) {
         m_connections.networks = {{kNetworkInternet, u"net", {true}}};
         m_connections.probe = kNetworkInternet;
+        m_boxes.always = BoxAnswer::kYes;
         Must(m_lists.Finish().state != CityListChange::kNotSaved, "an unfinished change of the cities");
         m_cities.EnsureCreated();
         m_rates = LoadRatesList(m_files, m_root);
@@ -274,7 +275,7 @@ private:
     const std::filesystem::path m_root;
     IFileSystem& m_files;
     const CResources m_texts;
-    CRecordedBoxes m_boxes;
+    CScriptedMessageBoxes m_boxes;
     CPageSession m_http;
     CFakeConnectionManager m_connections;
     CRegistryStore m_settings{m_ports.registry};

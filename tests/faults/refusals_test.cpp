@@ -1,6 +1,4 @@
 // Each write of each change is refused once, and then every write from each one on.
-#include <gtest/gtest.h>
-
 #include <fstream>
 #include <iterator>
 

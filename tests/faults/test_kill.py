@@ -23,25 +23,12 @@ import threading
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
+sys.path.append(str(ROOT / "tests/cli"))
+from rlx_program import FeedHandler  # noqa: E402
+
 CHANGER, RLX = os.environ["FAULT_CHANGER"], os.environ["RLX_BIN"]
 KINDS = ["settings", "packing", "skin", "cities", "languages", "rates", "units"]  # in the changer's order
 OLD = time.time() - 3600
-
-
-class Rates(http.server.BaseHTTPRequestHandler):
-    page = b""
-
-    def do_POST(self):
-        self.rfile.read(int(self.headers["Content-Length"]))
-        self.send_response_only(200)
-        for name, value in (("sessionId", "s1."), ("ServerMSG", "1005"), ("Content-Type", "text/plain"), ("newsid", "7"),
-                            ("Content-Length", len(self.page))):
-            self.send_header(name, str(value))
-        self.end_headers()
-        self.wfile.write(self.page)
-
-    def log_message(self, *_):
-        pass
 
 
 class Trial:
@@ -52,9 +39,10 @@ class Trial:
         shutil.copy(pathlib.Path(RLX).parent / "LangsRes/RoamlyFrench.dll", self.folder / "Module.dll")
         entries = (self.folder / "currs.lst").read_text("latin-1").split("\n", 1)[1].split("#")
         self.codes = [entry.split("_")[0] for entry in entries[:40]]
-        server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Rates)
-        threading.Thread(target=server.serve_forever, daemon=True).start()
-        (self.folder / "adrs.cfg").write_text(f"http://127.0.0.1:{server.server_port}/feed*")
+        self.server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), FeedHandler)
+        self.server.requests = []
+        threading.Thread(target=self.server.serve_forever, daemon=True).start()
+        (self.folder / "adrs.cfg").write_text(f"http://127.0.0.1:{self.server.server_port}/feed*")
         self.changer("once")  # makes the databases
         began = time.monotonic()
         self.kept = self.changer("once")
@@ -118,7 +106,7 @@ class Trial:
         card, packed = self.folder / "card", str(self.kept["packing"])
         card.mkdir(exist_ok=True)
         shutil.copy(self.folder / "Module.dll", card / f"Roamly{language}.dll")
-        Rates.page = "".join(f"{code}_{rates}#" for code in self.codes).encode()
+        self.server.answer = ("1005", "".join(f"{code}_{rates}#" for code in self.codes).encode(), 200)
         day = datetime.date(2000, 1, 1) + datetime.timedelta(rates)
         date = self.folder / "cities.date"
         year = str(2026 + (int(date.read_text()[:4]) + 1) % 10)

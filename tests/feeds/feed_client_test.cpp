@@ -35,22 +35,7 @@ std::vector<Row> Rows() {
         {"invalid request",
          {{FeedReplyBytes("b", "1001")}},
          "answered(b) S1/7/0 Roamlytix|!|Invalid request(1001).\n\n" + later},
-        {"server error by code",
-         {{FeedReplyBytes("b", "1004")}},
-         "answered(b) S1/7/0 Roamlytix|!|Server error(1004).\n\n" + later},
-        {"server error by status",
-         {{FeedReplyBytes("b", "1005", "7", "S1", "500 Oh")}},
-         "answered(b) S1/7/0 Roamlytix|!|Server error(1005).\n\n" + later},
-        {"unknown city",
-         {{FeedReplyBytes("b", "1006")}},
-         "answered(b) S1/7/0 Roamlytix|!|Requested city not available(1006).\n\nPlease contact support."},
-        {"nothing newer",
-         {{FeedReplyBytes("b", "1007")}},
-         "answered(b) S1/7/0 Roamlytix|!|There are no Updates available(1007)."},
         {"a code that nobody knows", {{FeedReplyBytes("b", "1002")}}, "not understood() S1/7/0 "},
-        {"another status with a good code",
-         {{FeedReplyBytes("b", "1005", "7", "S1", "404 Gone")}},
-         "answered(b) S1/7/0 "},
         {"a page of somebody else", {{ok + "Content-Type: text/html\r\n\r\n<html>"}}, "not understood() /7/1 "},
         {"the code not followed by a C",
          {{ok + "sessionId: S1.\r\nnewsid: 7\r\nServerMSG: 1005\r\n\r\nb"}},
@@ -61,38 +46,21 @@ std::vector<Row> Rows() {
         {"the headers in another order",
          {{ok + "newsid: 8\r\nServerMSG: 1005\r\nContent-Length: 1\r\nsessionId: S1.\r\n\r\nb"}},
          "answered(b) S1/7/1 "},
-        {"header names in small letters",
-         {{ok + "sessionid: S1.\r\nservermsg: 1005\r\nContent-Length: 1\r\nnewsid: 7\r\n\r\nb"}},
-         "not understood() /7/0 "},
-        {"slowly, byte by byte", {{FeedReplyBytes("EUR_1#"), Ending::kClose, 1}}, "answered(EUR_1#) S1/7/0 "},
         {"an interim reply first",
          {{"HTTP/1.1 100 Continue\r\nServerMSG: 1001\r\nC: x\r\n\r\n" + FeedReplyBytes("b")}},
          "answered(b) S1/7/0 "},
         {"access denied",
          {{FeedReplyBytes("b", "1005", "9", "S2", "401 No")}},
          "denied() old/7/-1 Error!|!|Access to the secured http site is denied!"},
-        {"moved to nowhere",
-         {{"HTTP/1.1 302 Found\r\nlocation: /x\r\n\r\n"}},
-         unchanged + "Error!|!|Redirection with no new location"},
-        {"moved to another scheme",
-         {{moved + "https://127.0.0.1/\r\n\r\n"}},
-         unchanged + "Error!|!|Error with redirected url"},
         {"moved", {{moved + "SELF/new\r\nA: b\r\n\r\n"}, {FeedReplyBytes("there")}}, "answered(there) S1/7/0 ", 2},
         {"moved twice", {{moved + "SELF/a\r\n\r\n"}, {moved + "SELF/b\r\n\r\n"}}, unchanged, 2},
-        {"moved to an error",
-         {{moved + "SELF/a\r\n\r\n"}, {FeedReplyBytes("b", "1004", "7", "S1", "500 Oh")}},
-         unchanged,
-         2},
         {"cut off in the body",
          {{ok + "sessionId: S1.\r\nServerMSG: 1005\r\nContent-Length: 99\r\nnewsid: 7\r\n\r\nEUR_1#"}},
          "failed() S1/7/0 " + NoServer("12030")},
-        {"cut off in the headers", {{ok + "sessionId: S1.\r\nServerM"}}, unchanged + NoServer("12030")},
-        {"broken off", {{"", Ending::kReset}}, unchanged + NoServer("12031")},
         {"silence", {{"", Ending::kHold}}, unchanged + NoServer("12002")},
         {"silence in the body",
          {{ok + "sessionId: S1.\r\nServerMSG: 1005\r\nContent-Length: 9\r\nnewsid: 7\r\n\r\nabc", Ending::kHold}},
          "failed() S1/7/0 " + NoServer("12002")},
-        {"no HTTP at all", {{std::string(300, '\x07')}}, unchanged + NoServer("12152")},
         {"endless headers", {{endless}}, unchanged + NoServer("12152")},
     };
 }
@@ -147,18 +115,6 @@ TEST(FeedClient, SendsHeadersAndBodyInOrder) {
     EXPECT_NE(requests[2].find("\r\nCookie: JSESSIONID=S2\r\n"), std::string::npos);
 }
 
-TEST(FeedClient, SendsTheSameAgainAfterARedirect) {
-    FeedWorld world;
-    world.settings.WriteString(RegistryRoot::kLocalMachine, keys::kRoamlytix, names::kSession, u"S0");
-    CScriptedServer server({{"HTTP/1.1 303 See\r\nLocation: SELF/new\r\n\r\n"}, {FeedReplyBytes("a")}});
-    world.client.PostFeedRequest(server.Url(), u"did=a", true);
-    const std::vector<std::string> requests = server.Requests();
-    ASSERT_EQ(requests.size(), 2U);
-    const auto afterFirstLine = [](const std::string& request) { return request.substr(request.find("\r\n")); };
-    EXPECT_TRUE(requests[1].starts_with("POST /new HTTP/1.1\r\n"));
-    EXPECT_EQ(afterFirstLine(requests[1]), afterFirstLine(requests[0]));
-}
-
 TEST(FeedClient, AServerCannotSlipHeadersIntoTheNextRequest) {
     FeedWorld world;
     CScriptedServer server(
@@ -182,14 +138,6 @@ TEST(FeedClient, QuietStoresTheNewsIdentifierAndAsksNothing) {
     EXPECT_EQ(world.Flag(names::kNewNews), 1);
 }
 
-TEST(FeedClient, WithoutAKnownIdentifierTheNewsCountAsZero) {
-    FeedWorld world;
-    CScriptedServer server({{FeedReplyBytes("a", "1005", "0")}});
-    world.client.PostFeedRequest(server.Url(), u"", false);
-    EXPECT_EQ(world.Text(names::kNewsId), "0");
-    EXPECT_EQ(world.Flag(names::kNewNews), 0);
-}
-
 TEST(FeedClient, CutsTheBodyAtTheLastLineThatFits) {
     const auto lines = [](std::size_t count, std::size_t length) {
         std::string body;
@@ -205,7 +153,7 @@ TEST(FeedClient, CutsTheBodyAtTheLastLineThatFits) {
         {"one more character", lines(255, 1000) + std::string(999, 'x') + "\n", 255'000},
         {"short lines", lines(2561, 100), 255'900},
         {"one endless line, dropped by pieces", std::string(300'000, 'x'), 249 * 1024},
-        {"much more than fits", lines(900, 1024), 249 * 1024},
+
         {"zeros and high bytes are kept", std::string("a\0\xFF\r\n\n", 6), 6},
     };
     for (const auto& row : rows) {
@@ -222,38 +170,11 @@ TEST(FeedClient, SaysWhenTheServerCannotBeReached) {
     FeedWorld world;
     const std::u16string url = CScriptedServer({}).Url();
     EXPECT_EQ(world.client.PostFeedRequest(url, u"", true).outcome, FeedOutcome::kFailed);
-    for (const char16_t* bad : {u"", u"https://localhost/", u"localhost", u"http://:80/", u"http://a:0/",
-                                u"http://a b/", u"http://me@a/", u"http://a:65536/", u"http://[::g]/"})
-        EXPECT_EQ(world.client.PostFeedRequest(bad, u"", true).outcome, FeedOutcome::kFailed);
-    std::vector<std::string> expected(10, "Error!|!|Error with server url");
-    expected[0] = "Error!|!|Cannot update.\n\nPlease check your Internet connection.";
-    EXPECT_EQ(world.Messages(), expected);
-    EXPECT_TRUE(world.registry.List().empty());
-    EXPECT_EQ(world.connections.held, 0);
-}
-
-/// Fails with a code, or for want of memory.
-class CFailingHttp : public IHttpSession {
-public:
-    HttpFailure failure = kHttpNoFailure;
-    HttpAnswer Post(const HttpPost&, IHttpObserver*) override {
-        if (failure == kHttpNoFailure) throw std::bad_alloc();
-        return {nullptr, failure};
-    }
-};
-
-TEST(FeedClient, TellsFailuresByTheirCode) {
-    FeedWorld world;
-    CFailingHttp http;
-    CFeedClient client({http, world.connections, world.registry, world.boxes, world.texts});
-    for (const HttpFailure failure : {kHttpNoFailure, kHttpOutOfMemory, kHttpNameNotResolved, kHttpCannotConnect}) {
-        http.failure = failure;
-        EXPECT_EQ(client.PostFeedRequest(u"http://a/", u"", true).outcome, FeedOutcome::kFailed);
-    }
-    const std::string noMemory = "Error!|!|Not enough memory!";
+    EXPECT_EQ(world.client.PostFeedRequest(u"https://localhost/", u"", true).outcome, FeedOutcome::kFailed);
     EXPECT_EQ(world.Messages(),
-              (std::vector<std::string>{noMemory, noMemory, NoServer("12007"),
-                                        "Error!|!|Cannot update.\n\nPlease check your Internet connection."}));
+              (std::vector<std::string>{"Error!|!|Cannot update.\n\nPlease check your Internet connection.",
+                                        "Error!|!|Error with server url"}));
+    EXPECT_TRUE(world.registry.List().empty());
     EXPECT_EQ(world.connections.held, 0);
 }
 

@@ -9,9 +9,9 @@
 #include "platform/curl/curl_http_session.h"
 #include "platform/fake/fake_connection_manager.h"
 #include "platform/fake/memory_registry.h"
+#include "platform/fake/scripted_message_boxes.h"
 #include "shell/resources.h"
 #include "shell/setting_names.h"
-#include "support/recorded_boxes.h"
 #include "support/scripted_server.h"
 
 namespace rlx::test {
@@ -38,6 +38,7 @@ struct FeedWorld {
     FeedWorld() {
         connections.networks = {{kNetworkInternet, u"My ISP", {true}}};
         connections.probe = kNetworkInternet;
+        boxes.always = BoxAnswer::kYes;
     }
 
     std::string Text(std::u16string_view name) {
@@ -61,7 +62,7 @@ struct FeedWorld {
     CMemoryRegistry registry;
     CRegistryStore settings{registry};
     CFakeConnectionManager connections;
-    CRecordedBoxes boxes;
+    CScriptedMessageBoxes boxes;
     const CResources texts;
     CCurlHttpSession http{QuickLimits()};
     FeedPorts ports{http, connections, registry, boxes, texts};

@@ -25,11 +25,6 @@ TEST(OpenMeteo, ReadsWhatIsThere) {
          "2026-11-24_95;;5.5;;;31.3;;;08:17;16:59#\n"},
         {"the older spelling", Daily(kTwoDays + std::string(R"(,"weathercode":[3,null])")),
          "2026-11-22_3;;;;;;;;;#\n2026-11-23_;;;;;;;;;#\n"},
-        {"other members do no harm",
-         Daily(kTwoDays + std::string(R"(,"temperature_2m_max":[-0.04,1e2],"uv_index_max":["a"])")),
-         "2026-11-22_;0.0;;;;;;;;#\n2026-11-23_;100.0;;;;;;;;#\n"},
-        {"numbers beyond all reason", Daily(kTwoDays + std::string(R"(,"temperature_2m_max":[1e300,1])")),
-         "2026-11-22_;;;;;;;;;#\n2026-11-23_;1.0;;;;;;;;#\n"},
         {"a sun that does not rise",
          Daily(kTwoDays + std::string(R"(,"weather_code":[1,2],"sunrise":["1970-01-01T00:00","2026-11-23T09:00"],)"
                                       R"("sunset":["1970-01-01T00:00","2026-11-24T00:10"])")),
@@ -53,7 +48,6 @@ TEST(OpenMeteo, NamesWhatIsWrong) {
         many += R"("2026-11-22",)";
     const std::pair<std::string, std::string> rows[] = {
         {"", "not a JSON object"},
-        {"<html>Sorry</html>", "not a JSON object"},
         {OpenMeteoReply().substr(0, 600), "not a JSON object"},
         {std::string(100'000, '['), "not a JSON object"},
         {R"({"daily":{"time":["2026-11-22"]},"x":")"
@@ -61,26 +55,16 @@ TEST(OpenMeteo, NamesWhatIsWrong) {
          "not a JSON object"},
         {R"({"error":true,"reason":"Daily API request limit exceeded.\n"})",
          "refused: Daily API request limit exceeded.?"},
-        {R"({"error":true,"reason":5})", "refused: no reason given"},
-        {"{}", "no \"daily\" part"},
-        {R"({"daily":[]})", "no \"daily\" part"},
         {Daily(R"("time":[])"), "no days in daily.time"},
-        {Daily(R"("time":"2026-11-22")"), "no days in daily.time"},
-        {Daily(R"("time":[20261122])"), "daily.time holds a value that is no date"},
         {Daily(R"("time":["2026-11-31"])"), "daily.time holds a value that is no date"},
         {Daily(R"("time":["2026-11-22","2026-11-22"])"), "the days do not follow each other"},
         {Daily(many + R"("2026-11-22"])"), "more than 16 days"},
         {with(R"("temperature_2m_max":[1])"), "temperature_2m_max does not have one value for each day"},
-        {with(R"("weather_code":{"0":1,"1":2})"), "weather_code does not have one value for each day"},
-        {with(R"("temperature_2m_max":[1,"2"])"), "temperature_2m_max holds a value that is no number"},
         {with(R"("sunset":[1,2])"), "sunset holds a value that is no time"},
         {with(R"("temperature_2m_min":[1,2])"), "no unit of temperature_2m_min"},
         {Daily(kTwoDays + std::string(R"(,"temperature_2m_max":[50,60])"), R"("temperature_2m_max":"°F")"),
          "the unit of temperature_2m_max is ??F, not ??C"},
-        {Daily(kTwoDays + std::string(R"(,"precipitation_sum":[0,0])"), R"("precipitation_sum":"inch")"),
-         "the unit of precipitation_sum is inch, not mm"},
         {with(R"("weather_code":[null,null])"), "no weather code and no temperature"},
-        {with(R"("sunrise":["2026-11-22T08:14","2026-11-23T08:15"])"), "no weather code and no temperature"},
     };
     for (const auto& [json, fault] : rows) {
         const ParsedOpenMeteo parsed = ParseOpenMeteo(json);

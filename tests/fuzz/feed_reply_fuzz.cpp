@@ -1,15 +1,11 @@
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
-#include <string>
-#include <string_view>
 
 #include "base/text.h"
 #include "feeds/reply_body.h"
 #include "feeds/reply_headers.h"
 #include "feeds/server_verdict.h"
+#include "fuzz/target.h"
 #include "platform/curl/header_block.h"
 #include "platform/http_session.h"
 
@@ -50,23 +46,22 @@ private:
 }  // namespace
 
 // Two bytes that say how the connection behaves, then a reply: headers, an empty line, the body.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    if (size < 2) return 0;
-    const std::string_view bytes(reinterpret_cast<const char*>(data) + 2, size - 2);
+void Try(std::string_view bytes) {
+    if (bytes.size() < 2) return;
+    const auto piece = static_cast<unsigned char>(bytes[0]) * 16U + 1;
+    const auto kind = static_cast<unsigned char>(bytes[1]);
+    bytes.remove_prefix(2);
     const std::size_t end = std::min(bytes.find("\r\n\r\n"), bytes.size());
     const std::string_view body = bytes.substr(std::min(end + 4, bytes.size()));
-    CReply reply(std::string(bytes.substr(0, end)), body, data[0] * 16U + 1, data[1] % 4 == 0);
+    CReply reply(std::string(bytes.substr(0, end)), body, piece, kind % 4 == 0);
 
     const std::u16string raw = Widen(reply.RawHeaders());
     const ReplyHeaders headers = ReadReplyHeaders(raw);
-    JudgeReply(data[1] * 4, headers.serverCode, CNoTexts());
+    JudgeReply(kind * 4, headers.serverCode, CNoTexts());
     const std::string again = "X-Header: 1\r\n" + Narrow(headers.session);
-    for (const std::string& line : HeaderLines(again)) {
-        if (line.find_first_of("\r\n") != std::string::npos) std::abort();
-    }
+    for (const std::string& line : HeaderLines(again))
+        FailIf(line.find_first_of("\r\n") != std::string::npos);
     const auto text = ReadReplyBody(reply);
-    if (text.has_value() == (data[1] % 4 == 0 && body.size() < kMaxReplyCharacters)) std::abort();
-    if (text && (text->size() > kMaxReplyCharacters || !std::string_view(body).starts_with(Narrow(*text))))
-        std::abort();
-    return 0;
+    FailIf(text.has_value() == (kind % 4 == 0 && body.size() < kMaxReplyCharacters));
+    FailIf(text && (text->size() > kMaxReplyCharacters || !body.starts_with(Narrow(*text))));
 }

@@ -1,8 +1,7 @@
-#include <cstdint>
-#include <cstdlib>
-#include <string>
+#include <algorithm>
 
 #include "base/read_token.h"
+#include "fuzz/target.h"
 #include "shell/language_list.h"
 
 namespace {
@@ -15,18 +14,15 @@ rlx::CLanguageList Read(std::string bytes) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const rlx::CLanguageList list = Read({reinterpret_cast<const char*>(data), size});
+void Try(std::string_view bytes) {
+    const rlx::CLanguageList list = Read(std::string(bytes));
     for (const std::uint32_t lang : {0U, 1U, 10U, 0xFFFFFFFFU})
         static_cast<void>(list.ModuleAtStart(lang));
     const auto longer = list.With(u"RoamlyNew.dll");
-    if (!longer) return 0;
+    if (!longer) return;
     // What is written reads back: all languages that were there, and the new one.
     const auto before = list.Languages();
     const auto after = Read(longer->Bytes()).Languages();
-    if (after.size() != before.size() + 1 || after.back().module != u"RoamlyNew.dll") std::abort();
-    for (std::size_t i = 0; i < before.size(); ++i) {
-        if (!(after[i] == before[i])) std::abort();
-    }
-    return 0;
+    FailIf(after.size() != before.size() + 1 || after.back().module != u"RoamlyNew.dll");
+    FailIf(!std::equal(before.begin(), before.end(), after.begin()));
 }

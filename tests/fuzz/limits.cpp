@@ -1,5 +1,13 @@
 #include <array>
+#include <cstdint>
 #include <vector>
+
+#include "fuzz/target.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    Try({reinterpret_cast<const char*>(data), size});
+    return 0;
+}
 
 // Each input gets five seconds and the process 512 MiB, unless the command line says otherwise.
 extern "C" int LLVMFuzzerInitialize(int* count, char*** words) {

@@ -2,12 +2,9 @@
 #include <QPainter>
 #include <QTextDocument>
 #include <array>
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
 
 #include "base/text.h"
+#include "fuzz/target.h"
 #include "news/news_cleaner.h"
 
 namespace {
@@ -19,17 +16,16 @@ std::array<char*, 2> g_words = {const_cast<char*>("fuzz"), nullptr};
 
 // Any bytes as "news.htm": the page is cleaned, what is clean stays as it is, and it is laid out and painted within the
 // limits of time and memory.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void Try(std::string_view bytes) {
     static const bool offscreen = qputenv("QT_QPA_PLATFORM", "offscreen");
     static const QGuiApplication application(g_count, g_words.data());
-    const std::u16string page = rlx::FromWindows1252({reinterpret_cast<const char*>(data), size});
+    const std::u16string page = rlx::FromWindows1252(bytes);
     const std::u16string cleaned = rlx::CleanNewsPage(page);
-    if (!offscreen || rlx::CleanNewsPage(cleaned) != cleaned) std::abort();
+    FailIf(!offscreen || rlx::CleanNewsPage(cleaned) != cleaned);
     QTextDocument document;
     document.setHtml(QString::fromStdU16String(cleaned));
     document.setTextWidth(228);
     QImage screen(240, 320, QImage::Format_RGB32);
     QPainter painter(&screen);
     document.drawContents(&painter, screen.rect());
-    return 0;
 }

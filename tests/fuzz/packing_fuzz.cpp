@@ -1,15 +1,9 @@
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
-
+#include "fuzz/target.h"
 #include "tools/packing/packing_file.h"
 
 /// Any bytes are taken, and what is saved of them reads back the same.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+void Try(std::string_view bytes) {
     const rlx::PackingFile file = rlx::ReadPackingFile(bytes);
     const rlx::PackingFile again = rlx::ReadPackingFile(rlx::WritePackingFile(file.lists));
-    if (!(again.lists == file.lists) || again.lossy) std::abort();
-    return 0;
+    FailIf(!(again.lists == file.lists) || again.lossy);
 }

@@ -4,16 +4,14 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <random>
-#include <string>
 #include <vector>
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+#include "fuzz/target.h"
 
 namespace {
 
@@ -31,8 +29,8 @@ std::size_t Below(std::size_t end) {
 void Run(const std::string& bytes) {
     alarm(kSeconds);
     // A copy of its very size, so that a byte read behind it is seen.
-    const std::vector<std::uint8_t> exact(bytes.begin(), bytes.end());
-    LLVMFuzzerTestOneInput(exact.data(), exact.size());
+    const std::vector<char> exact(bytes.begin(), bytes.end());
+    Try({exact.data(), exact.size()});
     alarm(0);
 }
 

@@ -1,17 +1,12 @@
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
-#include <string>
-
+#include "fuzz/target.h"
 #include "weather/weather_places.h"
 
 // Whatever the file, it gives no more places than it has bytes, and none without a feed name.
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void Try(std::string_view bytes) {
     using namespace rlx;
-    CMemoryStream stream(std::string(reinterpret_cast<const char*>(data), size));
+    CMemoryStream stream{std::string(bytes)};
     const auto places = ReadWeatherPlaces(stream);
-    if (places.size() > size) std::abort();
+    FailIf(places.size() > bytes.size());
     for (const auto& place : places)
-        if (place.feedName.empty() || FallbackFeedName(place.place).size() > place.place.size()) std::abort();
-    return 0;
+        FailIf(place.feedName.empty() || FallbackFeedName(place.place).size() > place.place.size());
 }

@@ -156,8 +156,8 @@ async def trickle(writer, piece, pause):
         await asyncio.sleep(pause)
 
 
-async def hostile(feedd, client, first, piece=b"", pause=1.0, close_half=False, patience=400):
-    """Seconds until the server drops the client, and the first line that it said."""
+async def hostile(feedd, client, first, piece=b"", pause=1.0, close_half=False, unread=False, patience=400):
+    """Seconds until the server drops the client, and the first line that it said, unless all of it is left unread."""
     started = time.monotonic()
     said, sender = b"", None
     try:
@@ -168,9 +168,13 @@ async def hostile(feedd, client, first, piece=b"", pause=1.0, close_half=False, 
         writer.write(first)
         if close_half:
             writer.write_eof()
+        if unread:
+            reader._transport.pause_reading()
         if piece:
             sender = asyncio.create_task(trickle(writer, piece, pause))
         async with asyncio.timeout(patience):
+            if unread:
+                await sender
             while block := await reader.read(65536):
                 said = (said + block)[:100]
         end = said.split(b"\r\n")[0].decode("latin-1")
@@ -209,22 +213,6 @@ def attacks(many):
     ]
 
 
-async def unread(feedd, client, piece):
-    """Asks on and on and reads nothing."""
-    started = time.monotonic()
-    reader, writer = await feedd.connect(client)
-    reader._transport.pause_reading()
-    try:
-        async with asyncio.timeout(400):
-            await trickle(writer, piece, 0)
-    except TimeoutError:
-        return time.monotonic() - started, "STILL CONNECTED"
-    except OSError:
-        return time.monotonic() - started, "nothing"
-    finally:
-        writer.transport.abort()
-
-
 async def siege(feedd, many):
     """All hostile clients at once while an ordinary one asks on; returns what went wrong."""
     faults, pulse, base = [], [], 1000
@@ -238,14 +226,9 @@ async def siege(feedd, many):
                 faults.append("an ordinary request failed: " + head)
             await asyncio.sleep(0.05)
 
-    def begin(attack, client):
-        if attack.get("unread"):
-            return unread(feedd, client, attack["piece"])
-        return hostile(feedd, client, **attack)
-
     heart, rows = asyncio.create_task(ordinary()), []
     for name, count, limit, attack in attacks(many):
-        rows.append((name, count, limit, asyncio.gather(*(begin(attack, base + i) for i in range(count)))))
+        rows.append((name, count, limit, asyncio.gather(*(hostile(feedd, base + i, **attack) for i in range(count)))))
         base += count
     rows.append(("64 silent ones from one address", 64, 15,
                  asyncio.gather(*(hostile(feedd, 50, b"") for _ in range(64)))))

@@ -59,25 +59,6 @@ TEST(NightBands, AreWhatAScanOfTheRowsFinds) {
     EXPECT_GT(none, 1000);
 }
 
-// Declinations that no date gives, the poles of the arithmetic, and transits on the ends of their range.
-TEST(NightBands, HoldAtTheEdgesOfTheArithmetic) {
-    const double dip = -kStandardAltitude;
-    for (const double declination : {0.0, dip, -dip, dip + 1e-9, dip - 1e-9, 1e-12, -1e-12, 45.0, -89.0, 90.0, 23.44}) {
-        for (const double fraction : {0.0, 0.25, 0.5, 1.0}) {
-            SolarInstant sun;
-            sun.month = 3;
-            sun.dayFraction = fraction;
-            sun.declination = declination * kRadiansPerDegree;
-            for (const MapGeometry& geometry : {MapGeometry{36, 18, 0}, {8, 216, 0}, {1, 1, 0}, {3, 2, 0}, {5, 3, 1}}) {
-                ExpectScanned(ComputeBands(geometry, sun), geometry, sun);
-            }
-        }
-    }
-    EXPECT_TRUE(ComputeBands({10, 10, 5}, {}).empty());
-    EXPECT_TRUE(ComputeBands({10, 10, 20}, {}).empty());
-    EXPECT_TRUE(ComputeBands({10, 0, 0}, {}).empty());
-}
-
 TEST(NightStrips, MoveByWholeSteps) {
     const std::vector<NightBand> bands = {{10, 100}, {17, 98}, {-1, -1}, {5, 6}, {4, 8}};
     const std::vector<NightBand> strips = {{10, 100}, {12, 100}, {14, 100}, {17, 98}, {11, 65}, {5, 32}, {-1, -1},
@@ -119,20 +100,6 @@ TEST(NightShadow, RowsDarkenWhatStripsWould) {
         Shade(map, geometry, bands, step, 0x1F3F3FU);
         ASSERT_EQ(map, expected) << geometry.width << 'x' << geometry.height << '+' << geometry.margin << ' ' << i;
     }
-}
-
-TEST(NightShadow, ColoursAreMasks) {
-    EXPECT_EQ(PixelOfColour(0x0000FF), 0xFFFF0000U);
-    EXPECT_EQ(PixelOfColour(0xFF12AB34), 0xFF34AB12U);
-    CBitmap map(4, 2, 0xFF88FF77U);
-    const std::vector<NightBand> bands = {{0, 1}, {0, 2}};
-    Shade(map, {4, 2, 1}, bands, 1, 0xFFFFFF);
-    EXPECT_EQ(map, CBitmap(4, 2, 0xFF88FF77U));
-    Shade(map, {4, 2, 1}, bands, 1, 0);
-    EXPECT_EQ(map.Row(0)[0], 0xFF88FF77U);
-    EXPECT_EQ(map.Row(0)[1], 0xFF000000U);
-    EXPECT_EQ(map.Row(1)[1], 0xFF88FF77U);
-    EXPECT_EQ(map.Row(1)[2], 0xFF000000U);
 }
 
 }  // namespace

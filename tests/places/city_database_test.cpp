@@ -18,11 +18,6 @@ TEST_F(CityDatabase, BuildsOnceInTheOrderOfThePlaces) {
     ASSERT_EQ(cities.Count(), 2U);
     EXPECT_EQ(cities.GetPlace(0), u"Bern:Switzerland");
     EXPECT_EQ(cities.GetName(1), u"Ulm");
-    EXPECT_EQ(cities.GetCountry(1), u"Germany");
-    EXPECT_EQ(cities.GetLongitude(1), u"10.0");
-    EXPECT_EQ(cities.GetLatitude(1), u"48.4");
-    EXPECT_EQ(cities.GetGmt(1), u"1");
-    EXPECT_EQ(cities.GetDstRule(1), u"1:88:2:298:3");
     const auto raw = store.Open(u"rlxCities");
     const Record ulm = raw->Read(raw->SeekPosition(101, 1).value()).value();
     EXPECT_EQ(ulm, (Record{{101, u"Ulm:Germany"}, {103, u"10.0:48.4"}, {108, u"1"}, {104, u"1:88:2:298:3"}}));
@@ -30,26 +25,6 @@ TEST_F(CityDatabase, BuildsOnceInTheOrderOfThePlaces) {
     EXPECT_EQ(Build(kOneCity), CityListState::kReady);
     EXPECT_EQ(cities.GetName(0), u"Bern") << "cities that are there are not replaced";
     EXPECT_TRUE(boxes.shown.empty());
-}
-
-TEST_F(CityDatabase, AnswersEmptyTextsPastTheEnd) {
-    EXPECT_EQ(cities.GetPlace(0), u"") << "no database yet";
-    Build(kTwoCities);
-    for (const CityIndex index : {2U, 684U, 0xFFFFFFFFU}) {
-        EXPECT_EQ(cities.GetPlace(index) + cities.GetLatitude(index) + cities.GetGmt(index), u"") << index;
-        EXPECT_FALSE(cities.Record(index).has_value()) << index;
-    }
-}
-
-TEST_F(CityDatabase, CutsPlacesAtTheFirstColon) {
-    Build("1\n");
-    ASSERT_TRUE(cities.AddCity(u"A:B:C", u"12", u"", u" +530x"));
-    EXPECT_EQ(cities.GetName(0), u"A");
-    EXPECT_EQ(cities.GetCountry(0), u"B:C");
-    EXPECT_EQ(cities.GetLongitude(0), u"12");
-    EXPECT_EQ(cities.GetLatitude(0), u"");
-    EXPECT_EQ(cities.Record(0)->gmt, 530);
-    EXPECT_EQ(cities.Record(0)->gmtText, u" +530x");
 }
 
 TEST_F(CityDatabase, TellsOfAMissingFileAndTriesAgain) {

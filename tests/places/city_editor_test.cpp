@@ -1,7 +1,5 @@
 #include "places/city_editor.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "places/cities_fixture.h"
 #include "places/zone_city.h"
@@ -40,21 +38,13 @@ TEST_F(CityEditor, NamesTheFieldThatIsWrong) {
         const char* fault;  ///< empty: the text is good
     } rows[] = {
         {CityField::kName, u"  ", "Enter the name of the city."},
-        {CityField::kName, u"A;B", "The list of cities cannot hold \";\"."},
         {CityField::kName, u"A:B", "The list of cities cannot hold \":\"."},
-        {CityField::kName, u">", "The list of cities cannot hold \">\"."},
         {CityField::kName, std::u16string(101, u'a'), "At most 100 characters."},
-        {CityField::kName, u"A\nB", "The list of cities cannot hold \"\n\"."},
         {CityField::kName, u"\u0141\u00F3d\u017A", "The list of cities cannot hold \"\u0141\"."},
-        {CityField::kName, u"Paris \U0001F5FC", "The list of cities cannot hold \"\U0001F5FC\"."},
         {CityField::kName, u"S\u00E3o", ""},
-        {CityField::kCountry, u"", "Enter the country."},
         {CityField::kLongitude, u"-180", ""},
         {CityField::kLongitude, u"180.001", "The longitude is a number of degrees from -180 (west) to 180 (east)."},
-        {CityField::kLongitude, u"1e1", "The longitude is a number of degrees from -180 (west) to 180 (east)."},
-        {CityField::kLatitude, u"+90", ""},
         {CityField::kLatitude, u"48,8", "The latitude is a number of degrees from -90 (south) to 90 (north)."},
-        {CityField::kLatitude, u".", "The latitude is a number of degrees from -90 (south) to 90 (north)."},
         {CityField::kZone, u"", ""},
         {CityField::kZone, u"Mars/Base", "The system knows no time zone \"Mars/Base\"."},
         {CityField::kDstHours, u"4", "Daylight saving is 0 to 3 hours; 0 for never."},
@@ -71,10 +61,9 @@ TEST_F(CityEditor, NamesTheFieldThatIsWrong) {
 
 TEST_F(CityEditor, ReadsOffsetsAsPeopleWriteThem) {
     const std::pair<std::u16string, std::u16string> rows[] = {
-        {u"5", u"5"},      {u"+5:30", u"530"}, {u"-3:30", u"-330"}, {u"530", u"530"}, {u"-330", u"-330"},
-        {u"14:00", u"14"}, {u"0", u"0"},       {u"1400", u"14"},    {u"14:30", u""},  {u"15", u""},
-        {u"-0:30", u""},   {u"0:30", u""},     {u"5:3", u""},       {u"5:60", u""},   {u"575", u""},
-        {u"5:30:00", u""}, {u"5h", u""},       {u"", u""},          {u"100", u""},    {u"5:+3", u""}};
+        {u"5", u"5"},    {u"+5:30", u"530"}, {u"-3:30", u"-330"}, {u"-330", u"-330"}, {u"1400", u"14"},
+        {u"14:30", u""}, {u"-0:30", u""},    {u"5:3", u""},       {u"5:60", u""},     {u"5:30:00", u""},
+        {u"5h", u""},    {u"", u""},         {u"100", u""},       {u"5:+3", u""}};
     for (const auto& [typed, stored] : rows) {
         CCityDraft draft = paris;
         draft[CityField::kGmt] = typed;

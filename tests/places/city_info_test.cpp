@@ -2,6 +2,8 @@
 
 #include "base/text.h"
 #include "places/cities_fixture.h"
+#include "places/home_distance.h"
+#include "shell/resources.h"
 
 namespace rlx {
 namespace {
@@ -40,7 +42,6 @@ TEST_F(CityInfo, HandsTheSunDetailsWhatTheyNeed) {
     EXPECT_EQ(Details(0, "2026-11-01 12:00:00"),
               (CitySunDetails{u"Adelaide", u"Australia", u"138.6", u"-34.9", u"Observing now", u"4/10/2026 - 5/4/2027",
                               u"9h30 + 1h (DST)", u"1030"}));
-    EXPECT_EQ(Details(3, "2026-07-01 12:00:00").gmtText, u"0h + 2h (DST)");
     EXPECT_EQ(Details(9, "2026-07-01 12:00:00"),
               (CitySunDetails{u"", u"", u"", u"", u"Not observing now", u"31/12/2025 - 31/12/2025", u"h", u"0"}));
 }
@@ -59,6 +60,37 @@ TEST_F(CityInfo, DecidesByTheHourThatTheClockShows) {
     };
     for (const auto& row : rows)
         EXPECT_EQ(Details(2, row.now).effectiveGmt, row.offset) << row.name;
+}
+
+ClockReading ReadingAt(int day, int hour, int minute) {
+    ClockReading reading;
+    reading.year = 2026;
+    reading.month = 11;
+    reading.day = day;
+    reading.hour = hour;
+    reading.minute = minute;
+    reading.dateText = u"24/11 Tue ";
+    return reading;
+}
+
+TEST(HomeDistance, TellsDayAndMinutes) {
+    const CResources texts;
+    const ClockReading home = ReadingAt(22, 21, 10);
+    const struct {
+        ClockReading city;
+        const char* note;
+        const char* words;
+    } rows[] = {
+        {ReadingAt(22, 21, 10), "", "same time as home"},
+        {ReadingAt(22, 15, 10), "-6:00", "6:00 behind home"},
+        {ReadingAt(23, 1, 40), "tomorrow, +4:30", "4:30 ahead of home"},
+        {ReadingAt(21, 23, 55), "yesterday, -21:15", "21:15 behind home"},
+        {ReadingAt(24, 0, 0), "24/11 Tue, +26:50", "26:50 ahead of home"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(ToUtf8(HomeNote(home, row.city, texts)), row.note);
+        EXPECT_EQ(ToUtf8(DistanceText(MinutesAhead(home, row.city), texts)), row.words);
+    }
 }
 
 }  // namespace

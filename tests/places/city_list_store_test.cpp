@@ -1,7 +1,5 @@
 #include "places/city_list_store.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 
 #include "base/text.h"
@@ -141,20 +139,6 @@ TEST_F(CityListStore, SurvivesDeathAtEveryWrite) {
         EXPECT_FALSE(IsCityChangeUnfinished(next.settings));
     }
     EXPECT_GE(deaths, 6);
-}
-
-TEST_F(CityListStore, LeavesAllAsItWasWhenRefused) {
-    for (int n = 1; n <= 6; ++n) {
-        Reset();
-        const std::string before = files.files["/app/cities.lst"];
-        plan.FailAt(n);
-        CRun run = Start();
-        EXPECT_EQ(run.lists.Change(EditAll).state, CityListChange::kNotSaved) << n;
-        EXPECT_EQ(run.Choices(), kBefore) << n;
-        EXPECT_EQ(files.files["/app/cities.lst"], before) << n;
-        EXPECT_FALSE(files.IsFile("/app/cities.lst.old")) << n;
-        EXPECT_FALSE(IsCityChangeUnfinished(run.settings)) << n;
-    }
 }
 
 TEST_F(CityListStore, DefaultsThatAreNotStoredStayOnTheirCity) {

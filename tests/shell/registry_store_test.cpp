@@ -1,6 +1,5 @@
 #include "shell/registry_store.h"
 
-#include <algorithm>
 #include <limits>
 
 #include "platform/fake/failing_registry.h"
@@ -60,16 +59,6 @@ TEST_F(RegistryStore, WhatIsNoNumberCountsAsMissing) {
     EXPECT_EQ(m_store.Status(), ReadStatus::kKeyMissing);
 }
 
-TEST_F(RegistryStore, ANameThatDoesNotFitTheBufferIsNeverFoundAsANumber) {
-    const std::u16string fits(19, u'n');
-    const std::u16string tooLong(20, u'n');
-    m_store.WriteDword(kMachine, kKey, tooLong, 7);
-    m_store.WriteDword(kMachine, kKey, fits, 8);
-    EXPECT_EQ(m_store.ReadDword(kMachine, kKey, fits), 8U) << "also behind a name that does not fit";
-    EXPECT_EQ(m_store.ReadDword(kMachine, kKey, tooLong), 0U);
-    EXPECT_EQ(m_store.Status(), ReadStatus::kValueMissing);
-}
-
 TEST_F(RegistryStore, TextsHaveNoTerminator) {
     EXPECT_EQ(m_store.ReadString(kMachine, kKey, u"t"), u"");
     EXPECT_EQ(m_store.Status(), ReadStatus::kKeyMissing);
@@ -103,23 +92,6 @@ TEST_F(RegistryStore, ADefaultIsWrittenOnlyWhenTheKeyIsMissing) {
     EXPECT_TRUE(Names(keys::kRoamlytix).empty()) << "the key came into being with the one below it";
     m_store.ReadDwordOr(keys::kOwner, u"x", 1);
     EXPECT_TRUE(m_memory.KeyExists(RegistryRoot::kCurrentUser, keys::kOwner));
-}
-
-TEST_F(RegistryStore, TheFirstStartWritesAllClockSettings) {
-    const ClockSettings defaults{0, {684, 756, 565, 988}, 0};
-    EXPECT_EQ(LoadClockSettings(m_store), defaults);
-    auto names = Names(keys::kWorldClock);
-    std::sort(names.begin(), names.end());
-    EXPECT_EQ(names, (std::vector<std::u16string>{u"clock", u"clock1", u"clock2", u"clock3", u"clock4", u"syncltz"}));
-    EXPECT_EQ(LoadClockSettings(m_store), defaults);
-}
-
-TEST_F(RegistryStore, AMissingClockIsNotWrittenButAMissingSwitchIs) {
-    m_store.WriteDword(kMachine, keys::kWorldClock, names::kClocks[1], 12);
-    EXPECT_EQ(LoadClockSettings(m_store), (ClockSettings{0, {684, 12, 565, 988}, 0}));
-    EXPECT_EQ(Names(keys::kWorldClock), (std::vector<std::u16string>{u"clock2", u"syncltz"}));
-    m_store.WriteDword(kMachine, keys::kWorldClock, names::kSyncZone, 2);
-    EXPECT_EQ(LoadClockSettings(m_store).syncZone, 2U);
 }
 
 TEST_F(RegistryStore, AFailingDeviceGivesDefaultsAndLosesNothing) {

@@ -3,13 +3,10 @@
 #include <set>
 
 #include "base/text.h"
-#include "feeds/text_ids.h"
+#include "shell/fill_text.h"
 #include "shell/text_ids.h"
 #include "support/numbered_names.h"
-#include "tools/clothing/text_ids.h"
 #include "tools/converter/text_ids.h"
-#include "tools/packing/text_ids.h"
-#include "tools/tiptax/text_ids.h"
 #include "weather/text_ids.h"
 
 namespace rlx {
@@ -34,22 +31,29 @@ TEST(ResourcesTest, TextsAreReadUnitByUnit) {
     } rows[] = {
         {"leading and trailing blank", kTextUnitAfter, u" > Unit?"},
         {"ends with a blank", kTextDeleteBefore, u"Delete < "},
-        {"blank lines", kTextCannotUpdate, u"Cannot update.\n\nPlease check your Internet connection."},
-        {"ends with line ends", kTextLastUpdate, u"Last update\n"},
-        {"spelled as agreed", kTextSyncFailed, u"Syncronisation failed"},
-        {"per cent signs", kTextRateRange, u"Value must be between 0% and 100%"},
-        {"apostrophe and brackets", kTextCannotDeleteAll, u"Can't delete <All> category!"},
-        {"quotation marks", kTextFileNotRead, u"\"%1\" could not be read."},
-        {"doubled ampersand", kTextSizesBlouses, u"Women's blouses && sweaters"},
         {"beyond ASCII", kTextDegreesCelsius, u"%1 °C"},
         {"last of its block", 32927, u""},
         {"no such block", 39000, u""},
-        {"negative", -1, u""},
         {"beyond the table", 65536 + kTextError, u""},
     };
     const CResources resources;
     for (const auto& row : rows)
         EXPECT_EQ(ToUtf8(resources.Text(row.id)), ToUtf8(row.text)) << row.name;
+}
+
+TEST(FillTextTest, MarksTakeTheirValuesOnce) {
+    const struct {
+        const char* name;
+        std::u16string_view pattern;
+        const char16_t* filled;
+    } rows[] = {
+        {"one", u"<%1>", u"<%2>"},        {"other order, and twice", u"%2, %1, %2", u"b, %2, b"},
+        {"no value", u"%3 %9", u"%3 %9"}, {"per cent", u"0% and 100%", u"0% and 100%"},
+        {"doubled", u"%%1%", u"%%2%"},    {"nothing", u"", u""},
+    };
+    // The first value looks like a mark itself.
+    for (const auto& row : rows)
+        EXPECT_EQ(ToUtf8(FillText(row.pattern, {u"%2", u"b"})), ToUtf8(row.filled)) << row.name;
 }
 
 }  // namespace

@@ -31,27 +31,11 @@ struct Builder {
     std::vector<std::byte> bytes;
 };
 
-void Flatten(const MenuTemplate& menu, const std::string& indent, std::string& lines, std::vector<int>& ids) {
+void Collect(const MenuTemplate& menu, std::multiset<int>& commands) {
     for (const auto& entry : menu) {
-        const bool separator = entry.kind == MenuEntry::Kind::kSeparator;
-        lines += indent + (separator ? "---" : ToUtf8(entry.text)) + "|\n";
-        if (entry.kind == MenuEntry::Kind::kCommand) ids.push_back(entry.id);
-        Flatten(entry.entries, indent + "  ", lines, ids);
+        if (entry.kind == MenuEntry::Kind::kCommand) commands.insert(entry.id);
+        Collect(entry.entries, commands);
     }
-}
-
-TEST(MenuTest, PackingListMenuReadsAsAgreed) {
-    const auto menu = CResources().Menu(kMenuPacking);
-    ASSERT_TRUE(menu);
-    std::string lines;
-    std::vector<int> ids;
-    Flatten(*menu, "", lines, ids);
-    EXPECT_EQ(lines,
-              " Add |\n  Category|\n  List|\n  Item(s)|\n"
-              " Delete |\n  Current Category|\n  Current List|\n  Selected Item|\n  ---|\n  All Items|\n"
-              " Options |\n  Show All|\n  Show Checked|\n  Show Unchecked|\n  ---|\n  Uncheck All|\n");
-    EXPECT_EQ(ids.front(), kCommandAddCategory);
-    EXPECT_EQ(ids.back(), kCommandUncheckAll);
 }
 
 TEST(MenuTest, EveryCommandStandsInOneMenu) {
@@ -59,10 +43,7 @@ TEST(MenuTest, EveryCommandStandsInOneMenu) {
     for (const auto& [name, number] : test::NumberedNames("command_ids.h", "kMenu")) {
         const auto menu = CResources().Menu(number);
         ASSERT_TRUE(menu) << name;
-        std::string lines;
-        std::vector<int> ids;
-        Flatten(*menu, "", lines, ids);
-        inMenus.insert(ids.begin(), ids.end());
+        Collect(*menu, inMenus);
     }
     const auto commands = test::NumberedNames("command_ids.h", "kCommand");
     for (const auto& [name, number] : commands)
@@ -112,15 +93,6 @@ TEST(DialogTest, EveryControlStandsInADialogThatHoldsIt) {
     for (const auto& [name, number] : test::NumberedNames("control_ids.h", "kControl")) {
         EXPECT_TRUE(inDialogs.contains(number)) << name;
     }
-}
-
-TEST(DialogTest, ExtendedFormIsRead) {
-    const auto dialog = CResources().Dialog(kDialogLanguage);
-    ASSERT_TRUE(dialog && dialog->controls.size() == 3);
-    EXPECT_TRUE(dialog->font == u"Arial" && dialog->fontSize == 8 && dialog->width == 140);
-    EXPECT_EQ(dialog->controls[0].text, u"Choose a language:");
-    EXPECT_EQ(dialog->controls[1].kind, ControlKind::kDropDownList);
-    EXPECT_TRUE(dialog->controls[2].id == kControlOk && dialog->controls[2].tabStop);
 }
 
 TEST(DialogTest, PlainFormIsRead) {

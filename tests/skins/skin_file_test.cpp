@@ -17,14 +17,11 @@ TEST(SkinFile, LookupsInBrokenTexts) {
         const char* value;
     } rows[] = {
         {"plain", "[A]\r\nK@12\r\n>\r\n*", "A", "K", "[A]\r\nK@12\r\n", "12"},
-        {"no such key", "[A]\r\nK@12\r\n>\r\n*", "A", "J", "[A]\r\nK@12\r\n", "!.!"},
         {"key of the next section", "[A]\r\n>\r\n[B]\r\nK@1\r\n>*", "A", "K", "[A]\r\n", "!.!"},
         {"unclosed section swallows the next", "[A]\r\n[B]\r\nK@1\r\n>\r\n*", "A", "K", "[A]\r\n[B]\r\nK@1\r\n", "1"},
         {"no closing anywhere runs to the star", "[A]\r\n[B]\r\nK@1\r\n*K@2\r\n", "A", "K", "[A]\r\n[B]\r\nK@1\r\n",
          "1"},
-        {"no star either", "[A]\r\nK@1\r\n", "A", "K", "[A]\r\nK@1\r\n", "1"},
         {"bare line feed loses a character", "[A]\nK@123\n>", "A", "K", "[A]\nK@123\n", "12"},
-        {"empty value", "[A]\r\nK@\r\n>", "A", "K", "[A]\r\nK@\r\n", ""},
         {"tail of another key", "[A]\r\nXK@9\r\nK@1\r\n>", "A", "K", "[A]\r\nXK@9\r\nK@1\r\n", "9"},
         {"longer key is not found", "[A]\r\nCMDC@9\r\nCMD@1\r\n>", "A", "CMD", "[A]\r\nCMDC@9\r\nCMD@1\r\n", "1"},
         {"nothing at all", "", "A", "K", "!.!", "!.!"},
@@ -49,16 +46,9 @@ TEST(SkinFile, NumberCheckOfColours) {
         bool valid;
         std::optional<std::uint32_t> read;
     } rows[] = {
-        {u"0", true, 0},
-        {u"4294967295", true, 0xFFFFFFFF},
-        {u"4294967296", false, 0xFFFFFFFF},
-        {u"-1", false, 0xFFFFFFFF},
-        {u"-255", false, 0xFFFFFF01},
-        {u"12x", false, 12},
-        {u"1.5", false, 1},
-        {u"", false, std::nullopt},
-        {u"--1", false, std::nullopt},
-        {u"\u0661", false, std::nullopt},
+        {u"4294967295", true, 0xFFFFFFFF}, {u"4294967296", false, 0xFFFFFFFF},
+        {u"-1", false, 0xFFFFFFFF},        {u"12x", false, 12},
+        {u"", false, std::nullopt},        {u"\u0661", false, std::nullopt},
     };
     for (const auto& row : rows) {
         EXPECT_EQ(IsSkinColour(row.text), row.valid) << ToUtf8(row.text);

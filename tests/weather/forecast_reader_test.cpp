@@ -52,28 +52,18 @@ TEST(ForecastReader, RefusesBrokenReplies) {
         std::u16string reply;
         ReplyFault fault;
     } rows[] = {
-        {"empty", u"", ReplyFault::kNotAForecast},
         {"a page", u"<html><body>502 Bad_Gateway # nginx</body></html>", ReplyFault::kNotAForecast},
-        {"a later version", u"weather_2#end_0#", ReplyFault::kNotAForecast},
         {"a zero character", kReplyHead + std::u16string(1, u'\0'), ReplyFault::kNotAscii},
-        {"refused by the server", u"weather_1#place_x#end_0#", ReplyFault::kNoValues},
         {"a day that tells nothing", OneDayReply(u";;;1.0;50;;;;08:00;17:00"), ReplyFault::kNoValues},
         {"no source", u"weather_1#place_x#issued_2026-11-22T18:00Z#2026-11-22" + day + u"end_1#",
          ReplyFault::kBadHeader},
         {"an issue time that is none",
          u"weather_1#place_x#source_y#issued_2026-11-31T18:00Z#2026-11-22" + day + u"end_1#", ReplyFault::kBadHeader},
-        {"an entry without a name", kReplyHead + u"nothing#", ReplyFault::kBadEntry},
-        {"nine fields", OneDayReply(u"3;9.1;4.0;0.0;10;14.5;230;81;08:14"), ReplyFault::kBadEntry},
         {"something behind the end", kGoodReply + u"2026-11-25" + day, ReplyFault::kBadEntry},
         {"the same day twice", kReplyHead + u"2026-11-22" + day + u"2026-11-22" + day + u"end_2#",
          ReplyFault::kBadDate},
-        {"a day left out", kReplyHead + u"2026-11-22" + day + u"2026-11-24" + day + u"end_2#", ReplyFault::kBadDate},
-        {"a day that is none", kReplyHead + u"2026-11-31" + day + u"end_1#", ReplyFault::kTruncated},
-        {"a year away from its issue", kReplyHead + u"2027-11-22" + day + u"end_1#", ReplyFault::kBadDate},
         {"seventeen days", seventeen + u"end_17#", ReplyFault::kTooManyDays},
-        {"more days promised", kReplyHead + u"2026-11-22" + day + u"end_2#", ReplyFault::kTruncated},
         {"huge", kReplyHead + std::u16string(300'000, u'\n'), ReplyFault::kTooLong},
-        {"many entries", kReplyHead + std::u16string(16'000, u'#'), ReplyFault::kBadEntry},
     };
     for (const auto& row : rows) {
         const auto reading = ReadForecast(row.reply);
@@ -104,14 +94,8 @@ TEST(ForecastReader, ImplausibleValuesAreMissing) {
          u"99;65;-95;2000;100;420;360;100;00:00;23:59",
          {{}, 99, 65, -95, 2000, 100, 420, 0, 100, TimeOfDay{0, 0}, TimeOfDay{23, 59}}},
         {"beyond the limits", u"0;65.1;-95.1;2000.1;100.1;420.1;360.1;101;24:00;08:60", {{}, 0}},
-        {"below zero", u"0;1;-0.0;-0.1;-1;-1;-1;-1;-8:00;", {{}, 0, 1, 0.0}},
         {"not numbers", u"0;nan;inf;1e3;0x1F;+5; 5;5 ;8:14;08.14", {{}, 0}},
-        {"half numbers", u"1.0;.5;5.;-;--5;.;1,5;5%;;", {{}, std::nullopt, std::nullopt, std::nullopt}},
         {"low above high", u"0;4;9;;;;;;;", {{}, 0}},
-        {"code beyond the table", u"100;4;4;;;;;;;", {{}, std::nullopt, 4, 4}},
-        {"long digits",
-         u"0;" + std::u16string(3000, u'9') + u";0." + std::u16string(3000, u'1') + u";;;;;;;",
-         {{}, 0, std::nullopt, ReadForecast(OneDayReply(u"0;;0.1111111111111111111111;;;;;;;")).forecast->days[0].low}},
     };
     for (const auto& row : rows) {
         // A second day keeps a reply sound whose first tells nothing.

@@ -26,12 +26,8 @@ TEST(Freshness, GoesByTheIssueTimeAndTheCitysDate) {
     } rows[] = {
         {"twelve hours", {2026, 11, 22}, At(11, 22, 6), At(11, 22, 18), {2026, 11, 22}, false, 0},
         {"a minute more", {2026, 11, 22}, At(11, 22, 6), At(11, 22, 18, 1), {2026, 11, 22}, true, 0},
-        {"past midnight", {2026, 11, 22}, At(11, 22, 20), At(11, 23, 1), {2026, 11, 23}, false, 1},
         {"Kiritimati is a day ahead", {2026, 11, 23}, At(11, 22, 10), At(11, 22, 11), {2026, 11, 23}, false, 0},
-        {"Pago Pago is a day behind", {2026, 11, 22}, At(11, 23, 10), At(11, 23, 10, 30), {2026, 11, 22}, false, 0},
-        {"its last day", {2026, 11, 18}, At(11, 22, 9), At(11, 22, 10), {2026, 11, 22}, false, 4},
         {"all days over though newly issued", {2026, 11, 17}, At(11, 22, 9), At(11, 22, 10), {2026, 11, 22}, true, 5},
-        {"clock a little slow", {2026, 11, 22}, At(11, 22, 10), At(11, 22, 9), {2026, 11, 22}, false, 0},
         {"from the future", {2026, 12, 1}, At(12, 1, 10), At(11, 22, 9), {2026, 11, 22}, true, 0},
     };
     for (const auto& row : rows) {
@@ -48,9 +44,8 @@ TEST(Freshness, UtcIsTheDeviceClockWithoutItsReference) {
         ClockOffset reference;
         DateTime utc;
     } rows[] = {
-        {{0, 0}, At(11, 22, 10)},       {{14, 0}, At(11, 21, 20)},     {{-11, 0}, At(11, 22, 21)},
-        {{5, 30}, At(11, 22, 4, 30)},   {{5, -30}, At(11, 22, 4, 30)}, {{-3, -30}, At(11, 22, 13, 30)},
-        {{-3, 30}, At(11, 22, 13, 30)}, {{0, 30}, At(11, 22, 9, 30)},  {{0, -30}, At(11, 22, 10, 30)},
+        {{14, 0}, At(11, 21, 20)},     {{-11, 0}, At(11, 22, 21)},      {{5, 30}, At(11, 22, 4, 30)},
+        {{5, -30}, At(11, 22, 4, 30)}, {{-3, -30}, At(11, 22, 13, 30)}, {{0, -30}, At(11, 22, 10, 30)},
     };
     for (const auto& row : rows)
         EXPECT_EQ(UtcOf(At(11, 22, 10), row.reference), row.utc) << row.reference.hours << ":" << row.reference.minutes;

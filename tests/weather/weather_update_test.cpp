@@ -73,12 +73,6 @@ TEST_F(WeatherUpdate, AsksForEachPlaceOnce) {
     EXPECT_TRUE(m_store.Find(u"Oslo:Norway"));
 }
 
-TEST_F(WeatherUpdate, NoAnswerAtAllIsSaidOnce) {
-    m_outcomes[u"Paris"] = FeedOutcome::kFailed;
-    EXPECT_EQ(Run({u"Paris:France", u"Oslo:Norway"}), (Results{PlaceUpdate::kNoReply, PlaceUpdate::kNotAsked}));
-    EXPECT_EQ(Shown(), (std::vector<std::u16string>{u"Syncronisation failed"}));
-}
-
 TEST_F(WeatherUpdate, OneBadPlaceKeepsNobodyElseFromWeather) {
     m_outcomes[u"Wien"] = FeedOutcome::kFailed;
     EXPECT_EQ(
@@ -88,12 +82,6 @@ TEST_F(WeatherUpdate, OneBadPlaceKeepsNobodyElseFromWeather) {
     EXPECT_EQ(Shown(), (std::vector<std::u16string>{
                            u"Syncronisation failed", u"The server has no forecast for Bern.",
                            u"The forecast received for Rome, Basel cannot be read. The last good one is kept."}));
-}
-
-TEST_F(WeatherUpdate, SaysWhenNothingCouldBeSaved) {
-    m_objects.Failures().FailAll();
-    EXPECT_EQ(Run({u"Oslo:Norway"}), Results{PlaceUpdate::kNotSaved});
-    EXPECT_EQ(Shown(), (std::vector<std::u16string>{u"The forecast for Oslo could not be saved."}));
 }
 
 TEST_F(WeatherUpdate, CancellingIsNoFailure) {

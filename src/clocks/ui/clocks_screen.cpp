@@ -96,9 +96,8 @@ void CClocksScreen::SetWaitingReminders(int count) {
 void CClocksScreen::ShowInformation(std::size_t clock) {
     const CitySunDetails details =
         SunDetailsOf(m_cities, *m_times, m_resources, m_clocks[clock].cityIndex, m_clock.Now());
-    const MessageBox box{m_resources.Text(kTextCityInformation), CityInfoText(details, m_resources), BoxIcon::kNone,
-                         BoxButtons::kYesNo};
-    if (m_boxes.Show(box) == BoxAnswer::kYes && m_showSunDetails) m_showSunDetails(details);
+    if (m_boxes.Show(CityInformationBox(details, m_resources)) == BoxAnswer::kYes && m_showSunDetails)
+        m_showSunDetails(details);
 }
 
 void CClocksScreen::ChangeCity(std::size_t clock) {

@@ -8,25 +8,28 @@
 
 namespace rlx {
 
-/// Remembers the boxes that were shown. Questions are answered from the queue in order; one that was not foreseen gets
-/// "no".
+/// Remembers the boxes that were shown. Questions are answered from the queue in order, all behind it with `always`.
 class CScriptedMessageBoxes : public IMessageBoxes {
 public:
     BoxAnswer Show(const MessageBox& box) override {
         shown.push_back(box);
         if (box.buttons == BoxButtons::kOk) return BoxAnswer::kOk;
-        if (answers.empty()) {
-            unforeseen.push_back(box);
-            return BoxAnswer::kNo;
-        }
+        if (answers.empty()) return always;
         const BoxAnswer answer = answers.front();
         answers.pop_front();
         return answer;
     }
+    BoxAnswer ShowWithCheck(const MessageBox& box, const std::u16string& text, bool& checked) override {
+        checkText = text;
+        checked = check;
+        return Show(box);
+    }
 
     std::vector<MessageBox> shown;
-    std::vector<MessageBox> unforeseen;  ///< questions for which no answer was queued
     std::deque<BoxAnswer> answers;
+    BoxAnswer always = BoxAnswer::kNo;
+    bool check = false;        ///< how check boxes are left
+    std::u16string checkText;  ///< of the last one
 };
 
 }  // namespace rlx

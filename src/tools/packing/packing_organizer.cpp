@@ -30,7 +30,9 @@ bool CPackingOrganizer::Save() {
 
 bool CPackingOrganizer::Leave() {
     if (!m_changed) return true;
-    if (m_boxes.Show(QuestionBox(m_texts, m_texts.Text(kTextAskSavePacking))) == BoxAnswer::kYes) return Save();
+    MessageBox question = QuestionBox(m_texts, m_texts.Text(kTextAskSavePacking));
+    question.onEnter = BoxAnswer::kYes;  // who answers in haste keeps what was done
+    if (m_boxes.Show(question) == BoxAnswer::kYes) return Save();
     m_changed = false;
     return true;
 }

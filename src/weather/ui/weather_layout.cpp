@@ -77,6 +77,7 @@ WeatherLayout LayOutWeather(const QRect& area) {
 
 std::vector<QRect> LayOutDays(const QRect& body, std::size_t count) {
     std::vector<QRect> days;
+    days.reserve(count);
     const int gap = GapOf(body);
     const bool columns = body.width() > body.height() && body.width() >= kColumnsFrom;
     const int cells = static_cast<int>(std::max<std::size_t>(count, 5));

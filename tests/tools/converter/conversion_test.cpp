@@ -1,7 +1,5 @@
 #include "tools/converter/conversion.h"
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 
 #include "base/number.h"
@@ -30,18 +28,12 @@ TEST(Conversion, GivesTheResultFieldAsShown) {
         std::u16string value, from, to, result;
     } const kRows[] = {
         {u"1", u"Short ton", u"kg - Kilogram", u"907.18474"},
-        {u"1", u"Cup [US]", u"Liter", u"0"},
         {u"3", u"Liter", u"Cup [US]", u"{40707}"},
         {u"0", u"Cup [US]", u"bucket [US]", u"{40708}"},
-        {u"1", u"Statue Mile (Mile)", u"m - Meter", u"1609"},
-        {u"1", u"km - Kilometer", u"Microinch", u"39370078740.1575"},
-        {u"1", u"acre ", u"square angstrom", u"4.0468564224e+23"},
         {u"1e400", u"acre ", u"hectare", u"{40707}"},
         {u" 12,5 km", u"Hectogram", u"Megagram", u"0.0012"},
-        {u"ten", u"Feet", u"Inch", u"0"},
         {u"100", u"°C - Degree Celsius", u"Degree Reaumur", u"80"},
         {u"100", u"°C - Degree Celsius", u"Degree Rankine", u"671.67"},
-        {u"-273.15", u"°C - Degree Celsius", u"K - Kelvin", u"0"},
         {u"300", u"K - Kelvin", u"°C - Degree Celsius", u"26.85"},
         {u"80", u"Degree Reaumur", u"°C - Degree Celsius", u"100"},
         {u"491.67", u"Degree Rankine", u"K - Kelvin", u"273.15"},
@@ -70,8 +62,6 @@ TEST(UnitSearch, ResolvesWholeNamesAndBeginnings) {
         {u"Yard", u"Feet", {}, kNeedsCategory, u"Yard"},
         {u"Dram", u"Grain", 6, kFound, u"Dram|Grain"},
         {u"square mile", u"square k", 0, kNotFound, u"square k"},
-        {u"parsec", u"Mile", {}, kNotFound, u"parsec"},
-        {u"", u"Mile", {}, kNotFound, u""},
         {u"Mile", u"kilopond/square m", {}, kDifferentCategories, u"kilopond/square m"},
     };
     const UnitTables tables = SeedTables();
@@ -84,6 +74,8 @@ TEST(UnitSearch, ResolvesWholeNamesAndBeginnings) {
     test::CNumberTexts texts;
     EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Dram", u"Pony", {}), texts),
               u"{32944}Dram{40725}5 {32921}; 6 {32922}");
+    EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Mile", u"kilopond/square m", {}), texts),
+              u"{32944}kilopond/square m{40726}");
     EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Pound", u"dek", 5), texts), u"{32944}Pound{40723}");
     EXPECT_EQ(PairMessage(FindUnitPair(tables, u"Stere", u"pip", 5), texts), u"{32944}pip{40724}Pipe [UK]; Pipe [US]");
 }

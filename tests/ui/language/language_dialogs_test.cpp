@@ -1,10 +1,3 @@
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QTest>
-
 #include "platform/fake/scripted_message_boxes.h"
 #include "platform/posix/posix_file_system.h"
 #include "shell/control_ids.h"

@@ -1,22 +1,12 @@
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QDialog>
-#include <QMenu>
-#include <QPushButton>
-#include <QTimer>
-#include <QToolButton>
 #include <set>
 
-#include "app/application.h"
 #include "shell/command_ids.h"
 #include "shell/control_ids.h"
 #include "shell/language_start.h"
 #include "support/numbered_names.h"
 #include "support/paths.h"
-#include "support/temp_folder.h"
+#include "support/whole_program.h"
 #include "ui/language/visible_texts.h"
-#include "uikit/window_style.h"
 
 namespace rlx {
 namespace {
@@ -52,10 +42,7 @@ bool IsData(const QWidget& widget, const QString& text) {
 /// The real application in a language in which every text stands in brackets and is half as long again.
 class PseudoWalk : public ::testing::Test {
 protected:
-    static void SetUpTestSuite() {
-        QApplication::style()->setParent(qApp);  // else nobody deletes it: it was set before there was an application
-        QApplication::setStyle(new CWindowStyle);
-    }
+    static void SetUpTestSuite() { test::CWholeProgram::SetStyle(); }
 
     PseudoWalk() : m_texts(&IsData) {
         for (const auto& entry : fs::directory_iterator(test::kDataDir)) {
@@ -64,35 +51,20 @@ protected:
             if (name == "langs.dat" || name == "adrs.cfg" || name == "make") continue;
             // The program may write to its files, and through a link it would write to ours.
             if (entry.is_directory()) {
-                fs::create_directory_symlink(entry.path(), m_home / name);
+                fs::create_directory_symlink(entry.path(), m_program.home / name);
             } else {
-                fs::copy_file(entry.path(), m_home / name);
+                fs::copy_file(entry.path(), m_program.home / name);
             }
         }
-        m_home.Put("langs.dat", "0,English,none@1,Pseudo,RoamlyPseudo.dll@>");
-        fs::create_directories(m_home / "LangsRes");
-        fs::copy(fs::path(test::kTestModuleDir) / "RoamlyPseudo.dll", m_home / "LangsRes");
-        WindowOptions options;
-        options.home = m_home.Path().string();
-        options.store = (m_home / "device.db").string();
-        options.now = DateTime{{2026, 7, 10}, 23, 30, 7, 0};
-        options.bias = 0;
-        options.quiet = true;
-        ChooseLanguage(options.store);
-        m_application.emplace(options);
+        m_program.home.Put("langs.dat", "0,English,none@1,Pseudo,RoamlyPseudo.dll@>");
+        fs::create_directories(m_program.home / "LangsRes");
+        fs::copy(fs::path(test::kTestModuleDir) / "RoamlyPseudo.dll", m_program.home / "LangsRes");
+        m_program.Start([](CRegistryStore& settings) { EXPECT_TRUE(WriteLanguageSetting(settings, 1)); });
         CPosixFileSystem files;
-        m_resources = LoadLanguageModule(files, m_home / "LangsRes/RoamlyPseudo.dll");
-        Window().setMinimumSize(0, 0);
+        m_resources = LoadLanguageModule(files, m_program.home / "LangsRes/RoamlyPseudo.dll");
     }
 
-    static void ChooseLanguage(const std::string& file) {
-        const CSystemClock clock;
-        const auto opened = OpenDeviceStore(file, clock);
-        CRegistryStore settings(opened.store->Registry());
-        ASSERT_TRUE(WriteLanguageSetting(settings, 1));
-    }
-
-    CMainWindow& Window() { return m_application->Window(); }
+    CMainWindow& Window() { return m_program.Window(); }
 
     void Resize(const QSize& size) {
         Window().resize(size);
@@ -182,29 +154,18 @@ protected:
         }
     }
 
-    test::CTempFolder m_home;
+    test::CWholeProgram m_program;
     test::CVisibleTexts m_texts;
     std::set<QString> m_told;
     std::set<QString> m_met;
     std::vector<QDialog*> m_depth;
-    std::optional<CApplication> m_application;
     std::optional<CResources> m_resources;
 };
 
 TEST_F(PseudoWalk, EveryScreenSpeaksTheLanguageAndHasRoomForIt) {
     for (const QSize size : {QSize(240, 320), QSize(320, 240), QSize(480, 640)}) {
         Resize(size);
-        for (int i = 0; i < Window().Count(); ++i) {
-            Window().ShowScreen(i);
-            CScreen& screen = Window().Screen(i);
-            for (int view = 0; view < screen.ViewCount(); ++view) {
-                screen.ShowView(view);
-                Check(Window(), QString("%1 %2 %3x%4")
-                                    .arg(Window().Entry(i).icon, screen.ViewName(view))
-                                    .arg(size.width())
-                                    .arg(size.height()));
-            }
-        }
+        m_program.EachView([this](CScreen&, const QString& where) { Check(Window(), where); });
     }
     EXPECT_GT(m_texts.Seen(), 500);
 }
@@ -212,14 +173,7 @@ TEST_F(PseudoWalk, EveryScreenSpeaksTheLanguageAndHasRoomForIt) {
 TEST_F(PseudoWalk, EveryDialogSpeaksTheLanguageAndHasRoomForIt) {
     Resize({240, 320});
     PressAll(Window().Menu(), "menu", 0);
-    for (int i = 0; i < Window().Count(); ++i) {
-        Window().ShowScreen(i);
-        CScreen& screen = Window().Screen(i);
-        for (int view = 0; view < screen.ViewCount(); ++view) {
-            screen.ShowView(view);
-            PressAll(screen, Window().Entry(i).icon + " " + screen.ViewName(view), 0);
-        }
-    }
+    m_program.EachView([this](CScreen& screen, const QString& where) { PressAll(screen, where, 0); });
     EXPECT_GT(m_met.size(), 10U);
 }
 

@@ -55,7 +55,7 @@ private:
     }
 
     void Read(QWidget& widget, QWidget& window) {
-        const auto texts = PaintedTexts(widget);
+        const auto texts = PaintedTexts(widget, {});
         QString outside;
         int open = 0;
         for (const PaintedText& text : texts) {

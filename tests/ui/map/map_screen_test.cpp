@@ -1,12 +1,7 @@
 #include "map/ui/map_screen.h"
 
-#include <QLabel>
-#include <QTest>
-#include <QTimer>
-
 #include "map/ui/sun_details.h"
 #include "platform/image/image_codec.h"
-#include "support/apart.h"
 #include "support/places_on_device.h"
 
 namespace rlx {
@@ -113,18 +108,15 @@ TEST_F(MapScreen, ScrubberMovesClockPanelAndNightAndNowReturns) {
     EXPECT_TRUE(IsBlack(sahara));
 }
 
-TEST_F(MapScreen, MapClockTwelveHoursAndTipAreSettings) {
+TEST_F(MapScreen, MapClockAndTwelveHoursAreSettings) {
     device.settings.WriteDword(RootOf(keys::kMap), keys::kMap, names::kMapClock, 2);
     device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kTwelveHour, 1);
-    device.settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kMapTip, 0);
+
     screen.Refresh();
     Show();
     EXPECT_EQ(Clock(), "New York, 3:10:05 PM, 22/11/2026 Sun");
     EXPECT_NE(Panel().find("Sunrise 8:1"), std::string::npos) << Panel();
     EXPECT_NE(Panel().find(" AM"), std::string::npos);
-    screen.Entered();
-    screen.Entered();
-    EXPECT_EQ(device.boxes.shown.size(), 1U);
 }
 
 TEST_F(MapScreen, BrokenImageLeavesAPlainMapAndSaysSo) {
@@ -136,18 +128,6 @@ TEST_F(MapScreen, BrokenImageLeavesAPlainMapAndSaysSo) {
     TakeWhiteMap();
     screen.grab();
     EXPECT_EQ(screen.accessibleDescription(), "");
-}
-
-TEST_F(MapScreen, PartsNeverOverlapAndLieWithinTheWindow) {
-    for (const QSize& size :
-         {QSize(240, 246), QSize(272, 210), QSize(480, 540), QSize(720, 440), QSize(1180, 770), QSize(900, 300)}) {
-        const QRect area({0, 0}, size);
-        const MapLayout layout = LayOutMap(area);
-        const QRect parts[] = {layout.picture, layout.scrubber, layout.clock, layout.span, layout.now, layout.panel};
-        test::ExpectApart(area, parts);
-        EXPECT_GE(layout.picture.width(), size.width() / 2) << size.width();
-        EXPECT_GE(layout.panel.height(), std::clamp(size.height() / 4, 60, 88)) << size.width();
-    }
 }
 
 TEST(SunDetails, PolarNightIsSaidInWords) {

@@ -1,7 +1,5 @@
 #include "uikit/folder_chooser.h"
 
-#include <QTest>
-
 #include "platform/fake/scripted_message_boxes.h"
 #include "platform/posix/posix_file_system.h"
 #include "shell/control_ids.h"

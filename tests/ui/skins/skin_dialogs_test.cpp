@@ -1,10 +1,3 @@
-#include <QListWidget>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
-#include <QTreeView>
-
 #include "platform/fake/scripted_message_boxes.h"
 #include "platform/image/image_codec.h"
 #include "platform/posix/posix_file_system.h"

@@ -8,34 +8,19 @@ namespace rlx {
 namespace {
 
 TEST(TodayDialogTest, WritesWhatItShowsHoweverItCloses) {
-    const struct {
-        const char* name;
-        int cities;  // as stored; -1 for nothing stored
-        int rates;
-        int shownCities;
-        bool shownRates;
-    } rows[] = {
-        {"nothing stored", -1, -1, 3, true},
-        {"none", 0, 0, 1, false},
-        {"more than the list holds", 9, 7, 5, true},
-    };
     const CResources resources;
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        CMemoryRegistry registry;
-        CRegistryStore settings(registry);
-        const auto root = RootOf(keys::kRoamlytix);
-        if (row.cities >= 0) settings.WriteDword(root, keys::kRoamlytix, names::kTodayCities, row.cities);
-        if (row.rates >= 0) settings.WriteDword(root, keys::kRoamlytix, names::kTodayRates, row.rates);
-        CTodayDialog dialog(settings, resources);
-        dialog.show();
-        EXPECT_EQ(dialog.Control<QComboBox>(kControlTodayCities)->currentText(), QString::number(row.shownCities));
-        EXPECT_EQ(dialog.Control<QCheckBox>(kControlTodayRates)->isChecked(), row.shownRates);
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-        EXPECT_EQ(ReadTodayOptions(settings), (TodayOptions{row.shownCities, row.shownRates}));
-        settings.ReadDword(root, keys::kRoamlytix, names::kTodayCities);
-        EXPECT_EQ(settings.Status(), ReadStatus::kRead);
-    }
+    CMemoryRegistry registry;
+    CRegistryStore settings(registry);
+    settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kTodayRates, 0);
+    settings.WriteDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kTodayCities, 9);
+    CTodayDialog dialog(settings, resources);
+    dialog.show();
+    EXPECT_EQ(dialog.Control<QComboBox>(kControlTodayCities)->currentText(), "5") << "no more than the list holds";
+    EXPECT_FALSE(dialog.Control<QCheckBox>(kControlTodayRates)->isChecked());
+    dialog.Control<QCheckBox>(kControlTodayRates)->click();
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_EQ(ReadTodayOptions(settings), (TodayOptions{5, true}));
+    EXPECT_EQ(settings.ReadDword(RootOf(keys::kRoamlytix), keys::kRoamlytix, names::kTodayCities), 5U);
 }
 
 }  // namespace

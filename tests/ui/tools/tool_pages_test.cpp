@@ -1,6 +1,3 @@
-#include <QClipboard>
-#include <QTest>
-
 #include "shell/control_ids.h"
 #include "tools/clothing/ui/clothing_tool.h"
 #include "tools/converter/ui/converter_tool.h"

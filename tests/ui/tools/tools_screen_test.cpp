@@ -1,9 +1,6 @@
 #include "tools/ui/tools_screen.h"
 
-#include <QTest>
-
 #include "shell/setting_names.h"
-#include "support/apart.h"
 #include "tools/clothing/text_ids.h"
 #include "tools/converter/text_ids.h"
 #include "tools/dialing/text_ids.h"
@@ -96,17 +93,6 @@ TEST_F(ToolsScreen, RemembersThePage) {
     next.AddPage(page);
     next.AddPage(new CFakePage(kTextToolClothing));
     EXPECT_EQ(next.Current(), page);
-}
-
-TEST(ToolGrid, LiesWithinItsAreaWithoutOverlap) {
-    for (const QSize size : {QSize(240, 246), QSize(272, 210), QSize(480, 540), QSize(1180, 770)}) {
-        const QRect area(QPoint(0, 0), size);
-        const std::vector<QRect> places = LayOutTools(area, 5);
-        ASSERT_EQ(places.size(), 5U);
-        test::ExpectApart(area, places);
-        for (const QRect& place : places)
-            EXPECT_TRUE(place.width() >= 70 && place.height() >= 70) << size.width();
-    }
 }
 
 }  // namespace

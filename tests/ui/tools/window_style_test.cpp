@@ -1,11 +1,6 @@
 #include "uikit/window_style.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QImage>
-#include <QPainter>
-#include <QStyleOptionButton>
+#include "uikit/enter_presses.h"
 
 namespace rlx {
 namespace {
@@ -46,6 +41,28 @@ TEST_F(WindowStyle, PressedButtonsDifferInGroundAndFrame) {
     const QImage pressed = Draw(QStyle::State_On);
     EXPECT_EQ(pressed.pixelColor(10, 5), m_accent);
     EXPECT_GT(Lightness(pressed, {2, 14}), Lightness(released, {2, 14}) + 100);
+}
+
+TEST(EnterPresses, TheFocusedButtonRatherThanTheDialogs) {
+    CEnterPresses enter;
+    qApp->installEventFilter(&enter);
+    QDialog dialog;
+    auto* ok = new QPushButton(&dialog);
+    ok->setDefault(true);
+    auto* other = new QPushButton(&dialog);
+    other->setAutoDefault(false);
+    auto* check = new QCheckBox(&dialog);
+    int oks = 0;
+    int others = 0;
+    QObject::connect(ok, &QPushButton::clicked, [&] { ++oks; });
+    QObject::connect(other, &QPushButton::clicked, [&] { ++others; });
+    dialog.show();
+    QTest::keyClick(other, Qt::Key_Return);
+    EXPECT_EQ(others, 1);
+    EXPECT_EQ(oks, 0);
+    QTest::keyClick(check, Qt::Key_Enter);
+    EXPECT_FALSE(check->isChecked());
+    EXPECT_EQ(oks, 1);
 }
 
 }  // namespace

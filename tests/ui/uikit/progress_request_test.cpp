@@ -1,10 +1,5 @@
 #include "uikit/progress_request.h"
 
-#include <QDialog>
-#include <QLabel>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
 #include <algorithm>
 #include <thread>
 

@@ -1,13 +1,8 @@
 #include "weather/ui/weather_screen.h"
 
-#include <QMenu>
-#include <QTest>
-
 #include "base/text.h"
 #include "platform/image/image_codec.h"
-#include "support/apart.h"
 #include "support/places_on_device.h"
-#include "weather/ui/weather_layout.h"
 
 namespace rlx {
 namespace {
@@ -220,26 +215,6 @@ TEST_F(WeatherScreen, EachTipIsShownOnce) {
     Click("view");
     Click("day0");
     EXPECT_EQ(device.boxes.shown.size(), 2U);
-}
-
-TEST(WeatherLayout, PartsNeitherOverlapNorLeaveTheScreen) {
-    const QSize sizes[] = {{240, 245}, {276, 200}, {480, 560}, {640, 400}, {1180, 760}, {1800, 300}, {240, 1200}};
-    for (const QSize& size : sizes) {
-        const QRect area(QPoint(0, 0), size);
-        const WeatherLayout layout = LayOutWeather(area);
-        const DetailLayout detail = LayOutDetail(layout.body);
-        std::vector<QRect> common{layout.unit, layout.update, layout.origin};
-        common.insert(common.end(), layout.places.begin(), layout.places.end());
-        for (const QRect& spare : {layout.heading, layout.view})
-            if (!spare.isEmpty()) common.push_back(spare);
-        for (auto parts : {LayOutDays(layout.body, 5),
-                           std::vector{detail.previous, detail.name, detail.next, detail.details, detail.chart}}) {
-            parts.insert(parts.end(), common.begin(), common.end());
-            test::ExpectApart(area, parts);
-            for (const QRect& part : parts)
-                EXPECT_TRUE(part.width() >= 24 && part.height() >= 14) << size.width();
-        }
-    }
 }
 
 }  // namespace

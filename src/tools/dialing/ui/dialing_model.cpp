@@ -1,5 +1,7 @@
 #include "tools/dialing/ui/dialing_model.h"
 
+#include <QSize>
+
 #include "uikit/qt_text.h"
 
 namespace rlx {

@@ -20,6 +20,7 @@ constexpr int kMargin = 6;
 constexpr int kGap = 4;
 constexpr int kLowScreen = 220;
 constexpr int kWidthForBoth = 260;  // of list and buttons beside it
+constexpr int kWidest = 720;        // of the column in a wide window, as that of the dialing codes
 
 }  // namespace
 
@@ -47,7 +48,6 @@ CPackingPage::CPackingPage(IFileSystem& files, const std::filesystem::path& fold
 }
 
 void CPackingPage::LayOut() {
-    m_layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     m_layout->setSpacing(kGap);
     m_layout->setRowStretch(1, 1);
     m_layout->setColumnStretch(0, 1);
@@ -59,6 +59,8 @@ void CPackingPage::LayOut() {
 
 /// Where height is scarce the buttons stand beside the list.
 void CPackingPage::resizeEvent(QResizeEvent* /*event*/) {
+    const int side = std::max(kMargin, (width() - kWidest) / 2);
+    m_layout->setContentsMargins(side, kMargin, side, kMargin);
     const bool beside = width() >= kWidthForBoth && height() < kLowScreen;
     m_layout->removeWidget(m_bar);
     m_layout->removeWidget(m_view);

@@ -10,19 +10,19 @@
 namespace rlx {
 
 /// What goes back over HTTP.
-struct HttpAnswer {
+struct ServedAnswer {
     unsigned status = 200;
     std::string body;
     std::vector<std::pair<std::string, std::string>> headers;
     int code = 0;  ///< of the feed protocol, for the log
 };
 
-HttpAnswer PlainAnswer(unsigned status, std::string body);
+ServedAnswer PlainAnswer(unsigned status, std::string body);
 
 /// What is known, for a load balancer; status 503 as long as there are no rates. `weather` may be null.
-HttpAnswer HealthAnswer(const Knowledge& knowledge, const CWeatherSource* weather);
+ServedAnswer HealthAnswer(const Knowledge& knowledge, const CWeatherSource* weather);
 
 /// An answer of the feed protocol, to the client of that session.
-HttpAnswer FeedHttpAnswer(FeedAnswer answer, const std::string& session);
+ServedAnswer ServedFeedAnswer(FeedAnswer answer, const std::string& session);
 
 }  // namespace rlx

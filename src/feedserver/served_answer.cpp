@@ -1,15 +1,14 @@
-#include "feedserver/http_answer.h"
-
 #include "base/iso_day.h"
 #include "base/text.h"
+#include "feedserver/http_answer.h"
 
 namespace rlx {
 
-HttpAnswer PlainAnswer(unsigned status, std::string body) {
+ServedAnswer PlainAnswer(unsigned status, std::string body) {
     return {status, std::move(body), {{"Content-Type", "text/plain; charset=utf-8"}}};
 }
 
-HttpAnswer HealthAnswer(const Knowledge& knowledge, const CWeatherSource* weather) {
+ServedAnswer HealthAnswer(const Knowledge& knowledge, const CWeatherSource* weather) {
     std::string body = "rates " + std::to_string(knowledge.rates.size());
     if (knowledge.ratesDate) body += " of " + Narrow(IsoDay(*knowledge.ratesDate)) + " from " + knowledge.ratesSource;
     body += "\nnews " + (knowledge.news ? knowledge.news->id : std::string("none")) + "\n";
@@ -17,8 +16,8 @@ HttpAnswer HealthAnswer(const Knowledge& knowledge, const CWeatherSource* weathe
     return PlainAnswer(knowledge.rates.empty() ? 503 : 200, std::move(body));
 }
 
-HttpAnswer FeedHttpAnswer(FeedAnswer answer, const std::string& session) {
-    HttpAnswer out{200, std::move(answer.body), {}, answer.code};
+ServedAnswer ServedFeedAnswer(FeedAnswer answer, const std::string& session) {
+    ServedAnswer out{200, std::move(answer.body), {}, answer.code};
     // Clients find these by their place: the header behind the code begins with a capital C.
     out.headers = {{"sessionId", session + "."},
                    {"ServerMSG", std::to_string(answer.code)},
