@@ -5,9 +5,9 @@
 #include <optional>
 #include <vector>
 
-#include "base/text.h"
 #include "news/html_tokens.h"
 #include "news/news_elements.h"
+#include "news/news_writer.h"
 
 namespace rlx {
 
@@ -18,16 +18,16 @@ bool IsEmpty(const NewsElement& element) {
     return element.form == NewsForm::kBreak || element.form == NewsForm::kRule;
 }
 
-/// Writes the page that is left; knows which elements are open.
+/// Takes from the page what may stay; knows which elements are open.
 class CCleaner {
 public:
-    explicit CCleaner(const NewsLimits& limits) : m_limits(limits) {}
+    explicit CCleaner(const NewsLimits& limits) : m_limits(limits), m_writer(limits) {}
 
-    bool IsFull() const { return m_out.size() >= m_limits.length; }
+    bool IsFull() const { return m_writer.IsFull(); }
 
     void Take(const HtmlToken& token) {
-        if (token.kind == HtmlToken::Kind::kText) return Text(token.text);
-        if (token.name == u"img") return token.kind == HtmlToken::Kind::kStart ? Picture(token) : void();
+        if (token.kind == HtmlToken::Kind::kText) return m_writer.Text(token.text);
+        if (token.name == u"img") return token.kind == HtmlToken::Kind::kStart ? m_writer.Picture(token) : void();
         const NewsElement* element = FindNewsElement(token.name);
         if (!element) return;
         if (token.kind == HtmlToken::Kind::kStart) {
@@ -40,7 +40,7 @@ public:
     std::u16string Finish() {
         while (!m_open.empty())
             CloseLast();
-        return std::move(m_out);
+        return m_writer.Take();
     }
 
 private:
@@ -49,68 +49,13 @@ private:
         int cells = 0;  ///< begun in this row
     };
 
-    /// Entities stay as they are.
-    void Text(std::u16string_view text) {
-        for (const char16_t unit : text) {
-            if (IsFull()) return;
-            Put(unit);
-        }
-    }
-
-    void Put(char16_t unit) {
-        const bool blank = unit == u' ' || (unit >= u'\t' && unit <= u'\r');
-        if (unit < u' ' && !blank) return;
-        m_wordLength = blank ? 0 : m_wordLength + 1;
-        if (m_wordLength > m_limits.wordLength && (unit < 0xDC00 || unit > 0xDFFF)) {
-            m_out += u"<br>";
-            m_wordLength = 1;
-        }
-        if (unit == u'<') {
-            m_out += u"&lt;";
-        } else {
-            m_out += unit;
-        }
-    }
-
-    void Picture(const HtmlToken& token) {
-        for (const HtmlAttribute& attribute : token.attributes) {
-            if (attribute.name != u"alt" || Trim(attribute.value).empty()) continue;
-            Text(u"[");
-            Text(attribute.value);
-            Text(u"]");
-            return;
-        }
-    }
-
     void Start(const NewsElement& element, const HtmlToken& token) {
         if (element.form != NewsForm::kInline && element.form != NewsForm::kBreak) CloseForStartOf(element.form);
         if (!Fits(element.form)) return;
-        m_wordLength = 0;
-        m_out += u'<';
-        m_out += element.writtenAs;
-        for (const HtmlAttribute& attribute : token.attributes)
-            Attribute(element, attribute);
-        m_out += u'>';
+        m_writer.Start(element, token);
         if (element.form == NewsForm::kCell) ++m_open.back().cells;
         if (element.form == NewsForm::kCell || element.form == NewsForm::kRow) ++m_cellsAndRows;
         if (!IsEmpty(element)) m_open.push_back({&element});
-    }
-
-    void Attribute(const NewsElement& element, const HtmlAttribute& attribute) {
-        if (!MayHave(element, attribute.name, attribute.value)) return;
-        m_out += u' ';
-        m_out += attribute.name;
-        m_out += u"=\"";
-        for (const char16_t unit : attribute.value) {
-            if (unit == u'"') {
-                m_out += u"&quot;";
-            } else if (unit == u'<' || unit == u'>') {
-                m_out += unit == u'<' ? u"&lt;" : u"&gt;";
-            } else if (unit >= u' ') {
-                m_out += unit;
-            }
-        }
-        m_out += u'"';
     }
 
     /// Rows and cells belong to a table, whatever else may stand alone.
@@ -194,17 +139,13 @@ private:
     }
 
     void CloseLast() {
-        m_wordLength = 0;
-        m_out += u"</";
-        m_out += m_open.back().element->writtenAs;
-        m_out += u'>';
+        m_writer.End(*m_open.back().element);
         m_open.pop_back();
     }
 
     const NewsLimits& m_limits;
-    std::u16string m_out;
+    CNewsWriter m_writer;
     std::vector<Open> m_open;  ///< outermost first
-    std::size_t m_wordLength = 0;
     int m_cellsAndRows = 0;
 };
 

@@ -7,10 +7,7 @@
 #include <QToolTip>
 #include <algorithm>
 
-#include "currency/currency_convert.h"
-#include "currency/currency_search.h"
 #include "currency/text_ids.h"
-#include "shell/fill_text.h"
 #include "shell/text_ids.h"
 #include "uikit/icons.h"
 #include "uikit/page_palette.h"
@@ -24,14 +21,7 @@ constexpr double kRadius = 8;
 constexpr int kGap = 3;
 constexpr int kRateHeight = 18;
 constexpr int kWidthForNames = 400;
-constexpr int kSmallestFont = 11;
-constexpr int kLargestFont = 20;
-constexpr int kMostTyped = 40;  // characters of an amount
-
-CurrencyPair Clamped(const CurrencyPair& pair, std::size_t count) {
-    const std::size_t last = count == 0 ? 0 : count - 1;
-    return {std::min(pair.from, last), std::min(pair.to, last)};
-}
+constexpr int kRateFont = 12;
 
 }  // namespace
 
@@ -45,9 +35,14 @@ CPairPanel::CPairPanel(const ITexts& texts, const CLook& look, QWidget* parent)
     auto* grid = new QGridLayout(this);
     grid->setSpacing(kGap);
     for (int side = 0; side < kSides; ++side) {
-        MakeSide(side);
-        grid->addWidget(m_combos[side], side, 0);
-        grid->addWidget(m_amounts[side], side, 1);
+        m_sides[side] = new CPairSide(side, texts, this);
+        grid->addWidget(m_sides[side]->Combo(), side, 0);
+        grid->addWidget(m_sides[side]->Amount(), side, 1);
+        connect(m_sides[side], &CPairSide::CurrencyChosen, this, &CPairPanel::TakePair);
+        connect(m_sides[side], &CPairSide::AmountEdited, this, [this, side] {
+            m_typed = side;
+            Convert();
+        });
     }
     grid->addWidget(m_swap, 0, 2);
     grid->addWidget(m_copy, 1, 2);
@@ -55,33 +50,9 @@ CPairPanel::CPairPanel(const ITexts& texts, const CLook& look, QWidget* parent)
     grid->setColumnStretch(1, 1);
     m_rate->setObjectName("rate");
     m_rate->setTextFormat(Qt::PlainText);
-    m_amounts[0]->setText(QStringLiteral("1"));
+    m_sides[0]->Amount()->setText(QStringLiteral("1"));
     connect(m_swap, &QToolButton::clicked, this, &CPairPanel::Swap);
     connect(m_copy, &QToolButton::clicked, this, &CPairPanel::Copy);
-}
-
-void CPairPanel::MakeSide(int side) {
-    const CSearchPopup::Words words{ToQString(m_texts.Text(kTextCurrencySearchHint)),
-                                    ToQString(m_texts.Text(kTextNothingFound))};
-    m_combos[side] = new CSearchCombo(words, this);
-    m_combos[side]->setObjectName(QStringLiteral("currency%1").arg(side));
-    m_combos[side]->setAccessibleName(ToQString(m_texts.Text(kTextChooseCurrency)));
-    connect(m_combos[side], &CSearchCombo::Chosen, this, [this] {
-        ShowCodes();
-        NameWidgets();
-        Convert();
-        emit PairChanged();
-    });
-    m_amounts[side] = new QLineEdit(this);
-    m_amounts[side]->setObjectName(QStringLiteral("amount%1").arg(side));
-    m_amounts[side]->setMaxLength(kMostTyped);
-    m_amounts[side]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_amounts[side]->setInputMethodHints(Qt::ImhFormattedNumbersOnly);
-    m_amounts[side]->setMinimumWidth(0);
-    connect(m_amounts[side], &QLineEdit::textEdited, this, [this, side] {
-        m_typed = side;
-        Convert();
-    });
 }
 
 QToolButton* CPairPanel::MakeButton(const char* name, int text) {
@@ -94,103 +65,59 @@ QToolButton* CPairPanel::MakeButton(const char* name, int text) {
 }
 
 void CPairPanel::SetCurrencies(const CurrencyList& currencies, const CurrencyPair& pair) {
-    m_currencies = &currencies;
-    QStringList entries;
-    for (const CurrencyEntry& entry : currencies)
-        entries << ToQString(entry.code + u"  " + entry.name);
-    const CurrencyPair chosen = Clamped(pair, currencies.size());
-    for (int side = 0; side < kSides; ++side) {
-        if (entries != m_combos[side]->Entries()) {
-            m_combos[side]->SetEntries(
-                entries, [this](const std::u16string& text) { return SearchCurrencies(text, *m_currencies); });
-        }
-        m_combos[side]->SetCurrent(currencies.empty() ? -1 : static_cast<int>(side == 0 ? chosen.from : chosen.to));
-        m_amounts[side]->setEnabled(!currencies.empty());
-    }
-    ShowCodes();
-    NameWidgets();
+    for (CPairSide* side : m_sides)
+        side->SetCurrencies(currencies);
+    m_sides[0]->Choose(pair.from);
+    m_sides[1]->Choose(pair.to);
+    ShowCurrencies();
     Convert();
 }
 
 CurrencyPair CPairPanel::Pair() const {
-    return {static_cast<std::size_t>(std::max(0, m_combos[0]->Current())),
-            static_cast<std::size_t>(std::max(0, m_combos[1]->Current()))};
-}
-
-const CurrencyEntry* CPairPanel::Currency(int side) const {
-    const int current = m_combos[side]->Current();
-    const bool known = m_currencies != nullptr && current >= 0 && current < static_cast<int>(m_currencies->size());
-    return known ? &(*m_currencies)[static_cast<std::size_t>(current)] : nullptr;
+    return {m_sides[0]->Chosen(), m_sides[1]->Chosen()};
 }
 
 /// The result is empty where there is none, and a hint in the field says why.
 void CPairPanel::Convert() {
-    const CurrencyEntry* from = Currency(m_typed);
-    const CurrencyEntry* to = Currency(1 - m_typed);
-    QLineEdit* result = m_amounts[1 - m_typed];
-    result->clear();
-    result->setPlaceholderText({});
-    if (from != nullptr && to != nullptr) {
-        const QString typed = m_amounts[m_typed]->text().trimmed();
-        const auto amount = ParseAmount(FromQString(typed));
-        const bool ratesKnown = RateValue(from->rate) && RateValue(to->rate);
-        const auto converted = amount ? rlx::Convert(*amount, from->rate, to->rate) : std::nullopt;
-        if (converted) {
-            result->setText(ToQString(FormatAmount(*converted)));
-            result->setCursorPosition(0);
-        } else if (!ratesKnown) {
-            result->setPlaceholderText(ToQString(m_texts.Text(kTextRateUnknown)));
-        } else if (!typed.isEmpty()) {
-            result->setPlaceholderText(ToQString(m_texts.Text(kTextNotAnAmount)));
-        }
-    }
-    m_copy->setEnabled(!result->text().isEmpty());
+    const CurrencyEntry* from = m_sides[m_typed]->Currency();
+    const CurrencyEntry* to = m_sides[1 - m_typed]->Currency();
+    ConvertedText converted;
+    if (from != nullptr && to != nullptr)
+        converted = ConvertTyped(FromQString(m_sides[m_typed]->Amount()->text().trimmed()), *from, *to, m_texts);
+    m_sides[1 - m_typed]->ShowConverted(converted);
+    m_copy->setEnabled(!converted.result.empty());
     ShowRate();
 }
 
-/// "1 USD = 0.88 EUR".
 void CPairPanel::ShowRate() {
-    const CurrencyEntry* from = Currency(0);
-    const CurrencyEntry* to = Currency(1);
+    const CurrencyEntry* from = m_sides[0]->Currency();
+    const CurrencyEntry* to = m_sides[1]->Currency();
     if (from == nullptr || to == nullptr) return m_rate->clear();
-    const auto rate = rlx::Convert(1, from->rate, to->rate);
-    const std::u16string value =
-        rate ? FormatAmount(*rate) + u" " + to->code
-             : (RateValue(from->rate) ? to->code : from->code) + u": " + m_texts.Text(kTextRateUnknown);
-    m_rate->setText(ToQString(rate ? u"1 " + from->code + u" = " + value : value));
+    m_rate->setText(ToQString(RateText(*from, *to, m_texts)));
 }
 
 /// A narrow panel has room for the codes alone.
-void CPairPanel::ShowCodes() {
-    for (int side = 0; side < kSides; ++side) {
-        const CurrencyEntry* entry = Currency(side);
-        if (entry == nullptr) continue;
-        m_combos[side]->setText(ToQString(width() < kWidthForNames ? entry->code : entry->code + u"  " + entry->name));
-        m_combos[side]->update();
-    }
+void CPairPanel::ShowCurrencies() {
+    for (CPairSide* side : m_sides)
+        side->ShowCurrency(width() >= kWidthForNames);
 }
 
-void CPairPanel::NameWidgets() {
-    for (int side = 0; side < kSides; ++side) {
-        const CurrencyEntry* entry = Currency(side);
-        const std::u16string name = entry == nullptr ? std::u16string() : entry->name;
-        m_amounts[side]->setAccessibleName(ToQString(FillText(m_texts.Text(kTextAmountIn), {name})));
-    }
-}
-
-/// The currencies change places, the amount typed stays where it is.
-void CPairPanel::Swap() {
-    const int first = m_combos[0]->Current();
-    m_combos[0]->SetCurrent(m_combos[1]->Current());
-    m_combos[1]->SetCurrent(first);
-    ShowCodes();
-    NameWidgets();
+void CPairPanel::TakePair() {
+    ShowCurrencies();
     Convert();
     emit PairChanged();
 }
 
+/// The currencies change places, the amount typed stays where it is.
+void CPairPanel::Swap() {
+    const CurrencyPair pair = Pair();
+    m_sides[0]->Choose(pair.to);
+    m_sides[1]->Choose(pair.from);
+    TakePair();
+}
+
 void CPairPanel::Copy() {
-    const QString result = m_amounts[1 - m_typed]->text();
+    const QString result = m_sides[1 - m_typed]->Amount()->text();
     if (result.isEmpty()) return;
     QApplication::clipboard()->setText(result);
     QToolTip::showText(m_copy->mapToGlobal(QPoint(0, -m_copy->height())), ToQString(m_texts.Text(kTextCopied)), m_copy);
@@ -203,20 +130,14 @@ int CPairPanel::Form::Height() const {
 void CPairPanel::Arrange(const Form& form) {
     const int rowHeight = form.rowHeight;
     layout()->setContentsMargins(form.padding, form.padding, form.padding, form.padding);
-    QFont amountFont = font();
-    amountFont.setPixelSize(std::clamp(rowHeight / 2, kSmallestFont, kLargestFont));
-    for (int side = 0; side < kSides; ++side) {
-        m_amounts[side]->setFixedHeight(rowHeight);
-        m_amounts[side]->setFont(amountFont);
-        m_combos[side]->setFixedHeight(rowHeight);
-        m_combos[side]->setFont(amountFont);
-    }
+    for (CPairSide* side : m_sides)
+        side->SetRowHeight(rowHeight);
     for (QToolButton* button : {m_swap, m_copy}) {
         button->setFixedSize(std::max(rowHeight, 28), rowHeight);
         button->setIconSize(QSize(rowHeight, rowHeight) * 6 / 10);
     }
     QFont rateFont = font();
-    rateFont.setPixelSize(kSmallestFont + 1);
+    rateFont.setPixelSize(kRateFont);
     m_rate->setFont(rateFont);
     m_rate->setFixedHeight(kRateHeight);
     m_rate->setVisible(form.withRate);
@@ -230,8 +151,8 @@ void CPairPanel::TakeColours() {
     setPalette(palette);
     palette.setColor(QPalette::Base, m_look.Colour(SkinKey::kCurrencyPCEC));
     palette.setColor(QPalette::Text, m_look.Colour(SkinKey::kCurrencySumC));
-    for (QLineEdit* amount : m_amounts)
-        amount->setPalette(palette);
+    for (CPairSide* side : m_sides)
+        side->Amount()->setPalette(palette);
     m_swap->setIcon(TintedIcon("swap", text));
     m_copy->setIcon(TintedIcon("copy", text));
 }
@@ -246,9 +167,9 @@ void CPairPanel::paintEvent(QPaintEvent* /*event*/) {
 
 void CPairPanel::resizeEvent(QResizeEvent* /*event*/) {
     const int column = width() < kWidthForNames ? std::clamp(width() / 3, 60, 110) : width() / 2;
-    for (CSearchCombo* combo : m_combos)
-        combo->setFixedWidth(column);
-    ShowCodes();
+    for (CPairSide* side : m_sides)
+        side->Combo()->setFixedWidth(column);
+    ShowCurrencies();
 }
 
 }  // namespace rlx

@@ -2,15 +2,13 @@
 
 #include <QFrame>
 #include <QLabel>
-#include <QLineEdit>
 #include <QToolButton>
 #include <array>
-#include <functional>
 
 #include "currency/converter_pairs.h"
+#include "currency/ui/pair_side.h"
 #include "shell/texts.h"
 #include "uikit/look.h"
-#include "uikit/search_combo.h"
 
 namespace rlx {
 
@@ -51,21 +49,17 @@ protected:
 private:
     static constexpr int kSides = 2;
 
-    void MakeSide(int side);
     QToolButton* MakeButton(const char* name, int text);
     void Convert();
     void ShowRate();
-    void NameWidgets();
-    void ShowCodes();
+    void ShowCurrencies();
+    void TakePair();
     void Swap();
     void Copy();
-    const CurrencyEntry* Currency(int side) const;
 
     const ITexts& m_texts;
     const CLook& m_look;
-    const CurrencyList* m_currencies = nullptr;
-    std::array<CSearchCombo*, kSides> m_combos{};
-    std::array<QLineEdit*, kSides> m_amounts{};
+    std::array<CPairSide*, kSides> m_sides{};
     QLabel* m_rate;
     QToolButton* m_swap;
     QToolButton* m_copy;

@@ -11,7 +11,7 @@ namespace rlx {
 
 CPackingOrganizer::CPackingOrganizer(IFileSystem& files, const std::filesystem::path& folder, const ITexts& texts,
                                      IMessageBoxes& boxes)
-    : m_store(files, folder), m_texts(texts), m_boxes(boxes) {}
+    : m_store(files, folder), m_texts(texts), m_boxes(boxes), m_notices(texts, boxes) {}
 
 void CPackingOrganizer::Load() {
     m_lists = m_store.Load();
@@ -22,7 +22,7 @@ void CPackingOrganizer::Load() {
 
 bool CPackingOrganizer::Save() {
     const PackingSave result = m_store.Save(m_lists);
-    if (result == PackingSave::kFailed) return Refuse(m_texts.Text(kTextPackingNotSaved));
+    if (result == PackingSave::kFailed) return m_notices.Refuse(kTextPackingNotSaved);
     m_changed = false;
     if (result == PackingSave::kSavedBesideOther) m_boxes.Show(NoteBox(m_texts, m_texts.Text(kTextPackingVersionKept)));
     return true;
@@ -47,9 +47,9 @@ void CPackingOrganizer::SelectList(std::size_t list) {
 
 bool CPackingOrganizer::SelectNamed(std::u16string_view category, std::u16string_view list) {
     const std::optional<std::size_t> foundCategory = m_lists.FindCategory(category);
-    if (!foundCategory) return RefuseNamed(kTextCategoryBefore, category, kTextPackingNotFound);
+    if (!foundCategory) return m_notices.RefuseNamed(kTextCategoryBefore, category, kTextPackingNotFound);
     const std::optional<std::size_t> foundList = list.empty() ? 0 : m_lists.FindList(*foundCategory, list);
-    if (!foundList) return RefuseNamed(kTextListBefore, list, kTextPackingNotFound);
+    if (!foundList) return m_notices.RefuseNamed(kTextListBefore, list, kTextPackingNotFound);
     m_current = {*foundCategory, *foundList};
     return true;
 }
@@ -59,7 +59,7 @@ std::optional<std::size_t> CPackingOrganizer::ItemNamed(std::u16string_view text
     for (std::size_t i = 0; !item && i < CurrentList().items.size(); ++i) {
         if (EqualIgnoringCase(CurrentList().items[i].text, text)) item = i;
     }
-    if (!item) RefuseNamed(kTextItemBefore, text, kTextPackingNotFound);
+    if (!item) m_notices.RefuseNamed(kTextItemBefore, text, kTextPackingNotFound);
     return item;
 }
 
@@ -74,12 +74,12 @@ std::vector<std::size_t> CPackingOrganizer::VisibleItems() const {
 }
 
 bool CPackingOrganizer::HasRoomForCategory() {
-    return m_lists.Categories().size() < kMaxPackingCategories || Refuse(m_texts.Text(kTextMaxCategories));
+    return m_lists.Categories().size() < kMaxPackingCategories || m_notices.Refuse(kTextMaxCategories);
 }
 
 bool CPackingOrganizer::HasRoomForList() {
     const std::size_t lists = m_lists.Categories()[m_current.category].lists.size();
-    return lists < kMaxPackingLists || Refuse(m_texts.Text(kTextMaxLists));
+    return lists < kMaxPackingLists || m_notices.Refuse(kTextMaxLists);
 }
 
 bool CPackingOrganizer::AddCategory(std::u16string_view name, const std::vector<std::u16string>& items) {
@@ -112,7 +112,7 @@ std::vector<ListPlace> CPackingOrganizer::OtherCategories() const {
 }
 
 bool CPackingOrganizer::AddItem(std::u16string_view text, const std::vector<ListPlace>& also) {
-    if (!IsPackingItem(text)) return Report(PackingChange::kBadItem, kTextItemBefore, text);
+    if (!IsPackingItem(text)) return m_notices.Report(PackingChange::kBadItem, kTextItemBefore, text);
     // Looked up before anything is added: one addition brings the item to "All Items" too.
     std::vector<ListPlace> missing;
     bool exists = false;
@@ -126,7 +126,7 @@ bool CPackingOrganizer::AddItem(std::u16string_view text, const std::vector<List
         }
     }
     const bool added = AddItems({std::u16string(text)}, missing).added > 0;
-    if (exists) RefuseNamed(kTextItemBefore, text, kTextAlreadyExists);
+    if (exists) m_notices.RefuseNamed(kTextItemBefore, text, kTextAlreadyExists);
     return added;
 }
 
@@ -142,7 +142,7 @@ PackingAdded CPackingOrganizer::AddItems(const std::vector<std::u16string>& item
         }
     }
     if (result.added > 0) Edited(PackingChange::kDone, kTextItemBefore, {});
-    if (result.refused > 0) Refuse(m_texts.Text(kTextItemRefused));
+    if (result.refused > 0) m_notices.Refuse(kTextItemRefused);
     return result;
 }
 
@@ -196,50 +196,17 @@ bool CPackingOrganizer::UndoDelete() {
 }
 
 bool CPackingOrganizer::Edited(PackingChange change, TextId what, std::u16string_view name) {
-    if (change != PackingChange::kDone) return Report(change, what, name);
+    if (change != PackingChange::kDone) return m_notices.Report(change, what, name);
     m_changed = true;
     m_beforeDelete.reset();
     return true;
 }
 
 bool CPackingOrganizer::Deleted(PackingChange change, Snapshot before) {
-    if (change != PackingChange::kDone) return Report(change, kTextItemBefore, {});
+    if (change != PackingChange::kDone) return m_notices.Report(change, kTextItemBefore, {});
     m_changed = true;
     m_beforeDelete = std::move(before);
     return true;
-}
-
-bool CPackingOrganizer::Report(PackingChange change, TextId what, std::u16string_view name) {
-    switch (change) {
-        case PackingChange::kDone:
-            return true;
-        case PackingChange::kMaxCategories:
-            return Refuse(m_texts.Text(kTextMaxCategories));
-        case PackingChange::kMaxLists:
-            return Refuse(m_texts.Text(kTextMaxLists));
-        case PackingChange::kAllCategory:
-            return Refuse(m_texts.Text(kTextCannotDeleteAll));
-        case PackingChange::kAllItemsList:
-            return Refuse(m_texts.Text(kTextCannotDeleteAllItems));
-        case PackingChange::kExists:
-            return RefuseNamed(what, name, kTextAlreadyExists);
-        case PackingChange::kBadName:
-            return Refuse(m_texts.Text(kTextNameRefused));
-        case PackingChange::kBadItem:
-            return Refuse(m_texts.Text(kTextItemRefused));
-        case PackingChange::kNotFound:
-            break;
-    }
-    return RefuseNamed(what, name, kTextPackingNotFound);
-}
-
-bool CPackingOrganizer::Refuse(std::u16string_view text) {
-    m_boxes.Show(ErrorBox(m_texts, text));
-    return false;
-}
-
-bool CPackingOrganizer::RefuseNamed(TextId before, std::u16string_view name, TextId after) {
-    return Refuse(m_texts.Text(before).append(name) + m_texts.Text(after));
 }
 
 }  // namespace rlx

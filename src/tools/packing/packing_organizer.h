@@ -11,6 +11,7 @@
 #include "platform/message_boxes.h"
 #include "shell/texts.h"
 #include "tools/packing/packing_lists.h"
+#include "tools/packing/packing_notices.h"
 #include "tools/packing/packing_store.h"
 
 namespace rlx {
@@ -106,9 +107,6 @@ private:
         ListPlace current;
     };
 
-    bool Report(PackingChange change, TextId what, std::u16string_view name);
-    bool Refuse(std::u16string_view text);
-    bool RefuseNamed(TextId before, std::u16string_view name, TextId after);
     bool Edited(PackingChange change, TextId what, std::u16string_view name);
     bool Deleted(PackingChange change, Snapshot before);
     Snapshot Now() const { return {m_lists, m_current}; }
@@ -116,6 +114,7 @@ private:
     CPackingStore m_store;
     const ITexts& m_texts;
     IMessageBoxes& m_boxes;
+    CPackingNotices m_notices;
     CPackingLists m_lists;
     ListPlace m_current;
     PackingFilter m_filter = PackingFilter::kAll;

@@ -1,7 +1,5 @@
 #include "tools/packing/ui/packing_page.h"
 
-#include <QApplication>
-#include <QScroller>
 #include <algorithm>
 
 #include "base/number.h"
@@ -29,17 +27,18 @@ CPackingPage::CPackingPage(IFileSystem& files, const std::filesystem::path& fold
     : m_resources(resources),
       m_look(look),
       m_organizer(files, folder, resources, boxes),
-      m_model(m_organizer),
       m_prompts(m_organizer, resources, this),
       m_selectors(new CPackingSelectors(m_organizer, resources, this)),
-      m_view(new CPackingListView(this)),
+      m_view(new CPackingListView(m_organizer, resources, this)),
       m_status(new CPackingStatus(ToQString(resources.Text(kTextEditItemHint)), this)),
       m_filters(new QActionGroup(this)),
       m_undo(new QAction(ToQString(resources.Text(kTextUndo)), this)),
       m_layout(new QGridLayout(this)) {
     setObjectName("packingPage");
     connect(m_selectors, &CPackingSelectors::Selected, this, &CPackingPage::Show);
-    MakeList();
+    connect(m_view, &CPackingListView::ItemsChanged, this, &CPackingPage::ShowStatus);
+    connect(m_view, &CPackingListView::ReloadWanted, this, &CPackingPage::Show);
+    connect(m_view, &CPackingListView::EditWanted, this, &CPackingPage::EditItem);
     MakeCommands();
     MakeItemMenu();
     LayOut();
@@ -71,22 +70,6 @@ void CPackingPage::resizeEvent(QResizeEvent* /*event*/) {
     } else {
         m_layout->addWidget(m_bar, 3, 0, 1, 2);
     }
-}
-
-void CPackingPage::MakeList() {
-    m_view->setObjectName("items");
-    m_view->setModel(&m_model);
-    m_view->setAccessibleName(ToQString(m_resources.Text(kTextToolPacking)));
-    QScroller::grabGesture(m_view->viewport(), QScroller::TouchGesture);
-    connect(m_view, &QListView::doubleClicked, this, &CPackingPage::EditDoubleClicked);
-    connect(m_view->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] { ShowStatus(); });
-    m_settle.setSingleShot(true);
-    m_settle.setInterval(QApplication::doubleClickInterval());
-    connect(&m_settle, &QTimer::timeout, this, &CPackingPage::Show);
-    connect(&m_model, &QAbstractItemModel::dataChanged, this, [this] {
-        ShowStatus();
-        if (m_organizer.Filter() != PackingFilter::kAll) m_settle.start();
-    });
 }
 
 void CPackingPage::MakeCommands() {
@@ -123,7 +106,9 @@ void CPackingPage::MakeItemMenu() {
     auto* edit = new QAction(ToQString(m_resources.Text(kTextEditItem)), this);
     edit->setShortcut(Qt::Key_F2);
     edit->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(edit, &QAction::triggered, this, [this] { EditItem(m_view->currentIndex()); });
+    connect(edit, &QAction::triggered, this, [this] {
+        if (const auto item = m_view->SelectedItem()) EditItem(*item);
+    });
     addAction(edit);
     auto* remove = new QAction(ToQString(m_resources.Text(kTextDeleteItem)), this);
     connect(remove, &QAction::triggered, this, &CPackingPage::DeleteSelected);
@@ -171,15 +156,8 @@ void CPackingPage::Refresh() {
 }
 
 void CPackingPage::Show() {
-    m_settle.stop();
-    const std::optional<std::size_t> selected = SelectedItem();
     m_selectors->Show();
-    m_model.Reload();
-    m_view->SetEmptyText(EmptyText());
-    if (m_model.rowCount() > 0) {
-        const QModelIndex before = selected ? m_model.IndexOf(*selected) : QModelIndex();
-        m_view->setCurrentIndex(before.isValid() ? before : m_model.index(0));
-    }
+    m_view->Reload();
     ShowStatus();
 }
 
@@ -191,52 +169,27 @@ void CPackingPage::ShowStatus() {
                  {FormatInteger(ticked), FormatInteger(static_cast<std::int64_t>(items.size()))});
     const bool filters = m_organizer.Filter() != PackingFilter::kAll;
     m_status->Set(ToQString(packed), filters ? m_filters->checkedAction()->text() : QString());
-    m_commands.Find(kCommandDeleteItem)->setEnabled(SelectedItem().has_value());
+    m_commands.Find(kCommandDeleteItem)->setEnabled(m_view->SelectedItem().has_value());
     m_bar->SetUndo(m_organizer.CanUndoDelete(), TintedIcon(QStringLiteral("undo"), m_look.PanelText()));
-}
-
-QString CPackingPage::EmptyText() const {
-    if (m_organizer.CurrentList().items.empty()) return ToQString(m_resources.Text(kTextNoItemsYet));
-    const bool checked = m_organizer.Filter() == PackingFilter::kChecked;
-    return ToQString(m_resources.Text(checked ? kTextNoneChecked : kTextAllChecked));
-}
-
-std::optional<std::size_t> CPackingPage::SelectedItem() const {
-    const QModelIndex index = m_view->currentIndex();
-    if (!index.isValid()) return std::nullopt;
-    return m_model.ItemAt(index);
-}
-
-void CPackingPage::SelectItem(std::size_t item) {
-    const QModelIndex index = m_model.IndexOf(item);
-    m_view->setCurrentIndex(index);
-    if (index.isValid()) m_view->scrollTo(index);
 }
 
 void CPackingPage::AddItems() {
     const std::size_t before = m_organizer.CurrentList().items.size();
     m_prompts.AddItems();
     Show();
-    if (m_organizer.CurrentList().items.size() > before) SelectItem(m_organizer.CurrentList().items.size() - 1);
+    if (m_organizer.CurrentList().items.size() > before) m_view->SelectItem(m_organizer.CurrentList().items.size() - 1);
 }
 
-/// The first of two clicks has turned the tick over, which nobody meant.
-void CPackingPage::EditDoubleClicked(const QModelIndex& index) {
-    const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-    m_model.setData(index, ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
-    EditItem(index);
-}
-
-void CPackingPage::EditItem(const QModelIndex& index) {
-    if (index.isValid() && m_prompts.EditItem(m_model.ItemAt(index))) Show();
+void CPackingPage::EditItem(std::size_t item) {
+    if (m_prompts.EditItem(item)) Show();
 }
 
 void CPackingPage::DeleteSelected() {
-    const std::optional<std::size_t> item = SelectedItem();
+    const std::optional<std::size_t> item = m_view->SelectedItem();
     if (!item || !m_organizer.DeleteItem(*item)) return;
     Show();
     const std::size_t count = m_organizer.CurrentList().items.size();
-    if (count > 0) SelectItem(std::min(*item, count - 1));
+    if (count > 0) m_view->SelectItem(std::min(*item, count - 1));
 }
 
 }  // namespace rlx

@@ -2,7 +2,6 @@
 
 #include <QActionGroup>
 #include <QGridLayout>
-#include <QTimer>
 #include <filesystem>
 
 #include "platform/file_system.h"
@@ -11,7 +10,6 @@
 #include "tools/packing/packing_organizer.h"
 #include "tools/packing/text_ids.h"
 #include "tools/packing/ui/packing_bar.h"
-#include "tools/packing/ui/packing_item_model.h"
 #include "tools/packing/ui/packing_list_view.h"
 #include "tools/packing/ui/packing_prompts.h"
 #include "tools/packing/ui/packing_selectors.h"
@@ -45,7 +43,6 @@ protected:
 
 private:
     void LayOut();
-    void MakeList();
     void MakeCommands();
     void MakeItemMenu();
     void MakeFilter(int command, PackingFilter filter);
@@ -53,22 +50,16 @@ private:
 
     void Show();
     void ShowStatus();
-    void SelectItem(std::size_t item);
-    QString EmptyText() const;
-    std::optional<std::size_t> SelectedItem() const;
 
     void AddItems();
-    void EditItem(const QModelIndex& index);
-    void EditDoubleClicked(const QModelIndex& index);
+    void EditItem(std::size_t item);
     void DeleteSelected();
 
     const CResources& m_resources;
     const CLook& m_look;
     CPackingOrganizer m_organizer;
-    CPackingItemModel m_model;
     CCommandTable m_commands;
     bool m_loaded = false;
-    QTimer m_settle;  ///< runs while rows that the filter hides are still shown
     CPackingPrompts m_prompts;
     CPackingSelectors* m_selectors;
     CPackingListView* m_view;

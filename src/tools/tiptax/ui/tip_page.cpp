@@ -1,16 +1,10 @@
 #include "tools/tiptax/ui/tip_page.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "base/number.h"
-#include "shell/fill_text.h"
-#include "tools/tiptax/bill_split.h"
 #include "tools/tiptax/text_ids.h"
-#include "uikit/icons.h"
 #include "uikit/page_palette.h"
 #include "uikit/qt_text.h"
 
@@ -20,7 +14,6 @@ namespace {
 
 constexpr int kMargin = 4;
 constexpr int kLowScreen = 200;
-constexpr int kCardRadius = 12;
 constexpr int kSmallestFont = 11;  // pixels
 constexpr int kLargestFont = 20;
 constexpr int kCharactersAcross = 21;  // of the font, wide; they decide its size
@@ -28,8 +21,6 @@ constexpr int kLinesDown = 16;
 constexpr int kWidthInCharacters = 24;  // of the card at most
 constexpr int kNarrow = 260;
 constexpr double kTotalScale = 1.4;
-constexpr int kLeastLabel = 40;  // pixels; the rest of a long label is drawn smaller
-constexpr int kFirstPeople = 2;
 
 }  // namespace
 
@@ -38,16 +29,14 @@ CTipPage::CTipPage(const ITexts& texts, IMessageBoxes& boxes, const CLook& look)
       m_look(look),
       m_tip(texts, boxes),
       m_scroll(new QScrollArea(this)),
-      m_card(new QWidget),
-      m_grid(new QGridLayout(m_card)),
+      m_card(new CTipCard(texts, look)),
       m_bill(new CNumberField(m_card)),
-      m_total(new CFittedLabel(m_card)),
-      m_share(new CFittedLabel(m_card)) {
+      m_total(new CFittedLabel(m_card)) {
     setObjectName("tipPage");
     MakeCard();
     m_bill->setObjectName("bill");
     m_bill->setText(ToQString(m_tip.BillText()));
-    AddRow(0, kTextBillAmount, m_bill);
+    m_card->AddRow(0, kTextBillAmount, m_bill);
     connect(m_bill, &QLineEdit::textEdited, this, [this](const QString& text) {
         m_tip.EditBill(FromQString(text));
         Show();
@@ -56,8 +45,8 @@ CTipPage::CTipPage(const ITexts& texts, IMessageBoxes& boxes, const CLook& look)
     MakeRate(TipRate::kSecond, "second", kTextTax, 3);
     m_total->setObjectName("total");
     m_total->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    AddRow(5, kTextTotal, m_total);
-    MakeSplit(6);
+    m_card->AddRow(5, kTextTotal, m_total);
+    m_split = new CSplitRows(texts, *m_card, 6);  // made last, as the keys reach it last
     connect(&m_look, &CLook::Changed, this, &CTipPage::ApplyLook);
     ApplyLook();
     Show();
@@ -81,31 +70,10 @@ void CTipPage::MakeCard() {
     m_scroll->setFocusPolicy(Qt::NoFocus);
     for (QWidget* see : {static_cast<QWidget*>(m_scroll->viewport()), content})
         see->setAutoFillBackground(false);
-    m_card->setObjectName("tipCard");
-    m_card->installEventFilter(this);
-    m_grid->setColumnStretch(4, 1);
-    m_grid->setContentsMargins(8, 4, 8, 4);
-}
-
-/// A label and behind it a field, or several in a layout. It lies across the columns of the rates, which need theirs.
-void CTipPage::AddRow(int row, int textId, QWidget* field, QLayout* fields) {
-    auto* line = new QHBoxLayout;
-    auto* label = new QLabel(ToQString(m_texts.Text(textId)), m_card);
-    label->setBuddy(field);
-    label->setMinimumWidth(kLeastLabel);
-    label->setToolTip(label->text());
-    if (qobject_cast<QLabel*>(field) == nullptr) field->setAccessibleName(label->text());
-    line->addWidget(label);
-    if (fields != nullptr) {
-        line->addLayout(fields, 1);
-    } else {
-        line->addWidget(field, 1);
-    }
-    m_grid->addLayout(line, row, 0, 1, CTipRateRow::kColumns);
 }
 
 void CTipPage::MakeRate(TipRate rate, const QString& name, int labelText, int row) {
-    auto* shown = new CTipRateRow(name, ToQString(m_texts.Text(labelText)), m_texts, *m_grid, row, m_card);
+    auto* shown = new CTipRateRow(name, ToQString(m_texts.Text(labelText)), m_texts, m_card->Grid(), row, m_card);
     m_rates[static_cast<std::size_t>(rate)] = shown;
     connect(shown, &CTipRateRow::RateEdited, this, [this, rate](const QString& text) {
         m_tip.EditRate(rate, FromQString(text));
@@ -117,41 +85,10 @@ void CTipPage::MakeRate(TipRate rate, const QString& name, int labelText, int ro
     });
 }
 
-void CTipPage::MakeSplit(int row) {
-    m_people = new QSpinBox(m_card);  // made last, as the keys reach it last
-    m_people->setObjectName("people");
-    m_people->setRange(1, kMaxPeople);
-    m_people->setValue(kFirstPeople);
-    m_people->setButtonSymbols(QAbstractSpinBox::NoButtons);
-    m_people->setAlignment(Qt::AlignHCenter);
-    connect(m_people, &QSpinBox::valueChanged, this, &CTipPage::Show);
-    m_fewer = MakeStep("fewer", -1);
-    m_more = MakeStep("more", 1);
-    auto* steps = new QHBoxLayout;
-    steps->addStretch(1);
-    steps->addWidget(m_fewer);
-    steps->addWidget(m_people);
-    steps->addWidget(m_more);
-    AddRow(row, kTextSplitBetween, m_people, steps);
-    m_share->setObjectName("share");
-    m_share->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    AddRow(row + 1, kTextEachPays, m_share);
-}
-
-QToolButton* CTipPage::MakeStep(const QString& name, int by) {
-    auto* button = new QToolButton(m_card);
-    button->setObjectName(name);
-    button->setFocusPolicy(Qt::NoFocus);
-    button->setAutoRepeat(true);
-    connect(button, &QToolButton::clicked, m_people, [this, by] { m_people->stepBy(by); });
-    return button;
-}
-
 void CTipPage::ApplyLook() {
     const QColor text = m_look.PanelText();
     setPalette(PagePalette(m_look, {m_look.Panel(), text, m_look.Bar(), text}));
-    m_fewer->setIcon(TintedIcon(QStringLiteral("minus"), text));
-    m_more->setIcon(TintedIcon(QStringLiteral("plus"), text));
+    m_split->SetColour(text);
     update();
 }
 
@@ -168,8 +105,8 @@ void CTipPage::resizeEvent(QResizeEvent* /*event*/) {
     scaled.setPixelSize(size);
     m_card->setFont(scaled);
     m_card->setMaximumWidth(size * kWidthInCharacters);
-    m_grid->setVerticalSpacing(size / 3);
-    m_grid->setHorizontalSpacing(size / 3);
+    m_card->Grid().setVerticalSpacing(size / 3);
+    m_card->Grid().setHorizontalSpacing(size / 3);
     QFont large = scaled;
     large.setPixelSize(static_cast<int>(size * kTotalScale));
     large.setBold(true);
@@ -180,38 +117,16 @@ void CTipPage::resizeEvent(QResizeEvent* /*event*/) {
         field->setMinimumHeight(touch);
         if (field != m_bill) field->setFixedWidth(digits);
     }
-    m_people->setFixedSize(digits, touch);
+    m_split->SetSize({digits, touch}, {touch + size / 2, touch});
     for (CTipRateRow* rate : m_rates)
         rate->SetNarrow(width() < kNarrow);
-    for (QToolButton* step : {m_fewer, m_more})
-        step->setFixedSize(touch + size / 2, touch);
-}
-
-/// Draws the ground of the card, which lets the picture through.
-bool CTipPage::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == m_card && event->type() == QEvent::Paint) {
-        QPainter painter(m_card);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(m_look.Card());
-        painter.drawRoundedRect(m_card->rect(), kCardRadius, kCardRadius);
-    }
-    return CToolPage::eventFilter(watched, event);
 }
 
 void CTipPage::Show() {
     for (const TipRate rate : {TipRate::kFirst, TipRate::kSecond})
         m_rates[static_cast<std::size_t>(rate)]->Show(m_tip, rate);
     m_total->Show(ToQString(m_tip.TotalText()));
-    m_share->Show(ShareText());
-}
-
-QString CTipPage::ShareText() const {
-    const std::optional<BillSplit> split = SplitTotal(m_tip.TotalText(), m_people->value());
-    if (!split) return ToQString(m_texts.Text(kTextCannotSplit));
-    if (split->larger == 0) return ToQString(split->smallerShare);
-    return ToQString(FillText(m_texts.Text(kTextTwoShares), {FormatInteger(split->larger), split->largerShare,
-                                                             FormatInteger(split->smaller), split->smallerShare}));
+    m_split->Show(m_tip.TotalText());
 }
 
 }  // namespace rlx
