@@ -3,6 +3,7 @@
 #include <QPlainTextEdit>
 
 #include "app/text_ids.h"
+#include "app/toolkit_language.h"
 #include "app/window_placement.h"
 #include "base/number.h"
 #include "base/text.h"
@@ -90,7 +91,9 @@ bool CApplication::MayAsk() const {
 bool CApplication::StartLanguage() {
     const LanguagePorts ports{m_files, *m_folder, m_resources, m_boxes};
     m_languages.emplace(ports, *m_settings, MayAsk());
-    return m_languages->Start(m_resources);
+    if (!m_languages->Start(m_resources)) return false;
+    SetToolkitLanguage(ToQString(m_resources.Text(kTextToolkitLanguage)));
+    return true;
 }
 
 void CApplication::OpenCities() {

@@ -69,5 +69,6 @@ inline constexpr TextId kTextModuleNotInstalled = 41414;
 inline constexpr TextId kTextModuleNotRemovable = 41415;
 inline constexpr TextId kTextModuleNotRemoved = 41416;
 inline constexpr TextId kTextNoSuchLanguage = 41417;
+inline constexpr TextId kTextToolkitLanguage = 41418;
 
 }  // namespace rlx
