@@ -32,6 +32,8 @@ constexpr int kLeastWidth = 300;  // elsewhere, so that titles can be read
 
 constexpr int kSelectorHeight = 12;  // template units
 
+constexpr int kWidthForClearing = 60;  // template units: narrower fields are for a number, and need the room for it
+
 /// Controls that share a row of the template, in reading order.
 using Row = std::vector<const DialogControl*>;
 
@@ -87,7 +89,7 @@ QWidget* MakeEdit(const DialogControl& control) {
     }
     auto* edit = new QLineEdit(ToQString(control.text));
     edit->setReadOnly(control.readOnly);
-    edit->setClearButtonEnabled(!control.readOnly);
+    edit->setClearButtonEnabled(!control.readOnly && control.width >= kWidthForClearing);
     if (control.password) edit->setEchoMode(QLineEdit::Password);
     return edit;
 }
@@ -107,6 +109,14 @@ QWidget* MakeListView() {
     view->setUniformRowHeights(true);
     view->setAllColumnsShowFocus(true);
     return view;
+}
+
+/// The window behind all dialogs that led to this one; null when there is none.
+const QWidget* ProgramWindow(const QWidget& dialog) {
+    const QWidget* window = nullptr;
+    for (const QWidget* parent = dialog.parentWidget(); parent != nullptr; parent = window->parentWidget())
+        window = parent->window();
+    return window;
 }
 
 }  // namespace
@@ -199,7 +209,7 @@ void CTemplateDialog::GiveRoomToWhatIsSeen() {
 void CTemplateDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     GiveRoomToWhatIsSeen();
-    const QWidget* window = parentWidget() != nullptr ? parentWidget()->window() : nullptr;
+    const QWidget* window = ProgramWindow(*this);
     const QRect room = window != nullptr ? window->geometry() : screen()->availableGeometry();
     if (room.width() < kSmallScreen || room.height() < kSmallScreen) {
         setGeometry(room);

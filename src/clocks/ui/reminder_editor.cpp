@@ -35,7 +35,7 @@ CReminderEditor::CReminderEditor(const ReminderPorts& ports, Reminder reminder, 
       m_time(Control<QTimeEdit>(kControlReminderTime)),
       m_note(Control<QLabel>(kControlReminderNote)) {
     setObjectName("reminderEditor");
-    resize(360, 300);
+    resize(360, 250);
     if (m_text == nullptr || m_city == nullptr || m_date == nullptr || m_time == nullptr || m_note == nullptr) return;
     Fill();
     ConnectFields();

@@ -29,7 +29,7 @@ CRemindersDialog::CRemindersDialog(const ReminderPorts& ports, QWidget* parent)
       m_edit(Control<QPushButton>(kControlReminderEdit)),
       m_clear(Control<QPushButton>(kControlReminderClear)) {
     setObjectName("reminders");
-    resize(380, 400);
+    resize(380, 260);
     if (m_list == nullptr || m_edit == nullptr || m_clear == nullptr) return;
     m_list->setItemDelegate(new CReminderRow(m_list));
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

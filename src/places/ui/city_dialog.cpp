@@ -44,7 +44,7 @@ CCityDialog::CCityDialog(const CResources& resources, CityEditing& editing, cons
       m_editing(editing) {
     setObjectName("city");
     setWindowTitle(ToQString(title));
-    resize(420, 420);
+    resize(420, 340);
     FillZones();
     Show(draft);
     for (const FieldControl& each : kFieldControls) {

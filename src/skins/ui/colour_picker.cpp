@@ -40,7 +40,7 @@ CColourPicker::CColourPicker(const CResources& resources, const QString& title, 
       m_text(Control<QLineEdit>(kControlColourText)) {
     setObjectName("colourPicker");
     setWindowTitle(title);
-    resize(320, 340);
+    resize(320, 310);
     AddField(resources);
     if (m_text != nullptr) {
         m_text->setClearButtonEnabled(false);
@@ -63,12 +63,14 @@ void CColourPicker::AddField(const CResources& resources) {
     auto* name = new QLabel(windowTitle(), this);
     name->setWordWrap(true);
     name->setTextFormat(Qt::PlainText);
-    m_swatch->setFixedSize(kSwatch);
+    m_swatch->setFrameStyle(QFrame::Box | QFrame::Plain);  // a colour may be that of the dialog itself
+    m_swatch->setFixedSize(kSwatch + 2 * QSize(m_swatch->frameWidth(), m_swatch->frameWidth()));
     m_swatch->setObjectName("oldAndNew");
     heading->addWidget(name, 1);
     heading->addWidget(m_swatch);
     column->insertLayout(0, heading);
     column->insertWidget(1, m_field, 1);
+    column->setStretch(column->count() - 2, 0);  // the field takes the room above the buttons
     m_field->setAccessibleName(ToQString(resources.Text(kTextColourPlane)));
 }
 
