@@ -1,7 +1,6 @@
 #include "app/application.h"
 
-#include <QPlainTextEdit>
-
+#include "app/about.h"
 #include "app/text_ids.h"
 #include "app/toolkit_language.h"
 #include "app/window_placement.h"
@@ -12,7 +11,6 @@
 #include "places/ui/city_chooser.h"
 #include "shell/clock_settings.h"
 #include "shell/command_ids.h"
-#include "shell/control_ids.h"
 #include "shell/fill_text.h"
 #include "shell/program_paths.h"
 #include "shell/setting_names.h"
@@ -25,16 +23,8 @@
 #include "tools/packing/ui/packing_page.h"
 #include "tools/tiptax/ui/tip_page.h"
 #include "uikit/qt_text.h"
-#include "uikit/template_dialog.h"
 
 namespace rlx {
-
-namespace {
-
-constexpr std::size_t kCreditsLimit = 1U << 20U;
-constexpr const char* kVersion = RLX_VERSION;
-
-}  // namespace
 
 CApplication::CApplication(const WindowOptions& options)
     : m_options(options),
@@ -191,19 +181,12 @@ void CApplication::MakeReminders() {
 }
 
 void CApplication::MakeCommands() {
+    m_switches.emplace(*m_settings, m_commands, [this] { m_window->RefreshScreens(); });
     m_commands.Add(kCommandHomeCity, this, [this] { m_clocksScreen->ChangeCity(0); });
     m_commands.Add(kCommandReminders, this, [this] { m_reminders->Open(std::nullopt); });
     m_commands.Add(kCommandEditCities, this, [this] { m_cityCommands->Edit(); });
     m_commands.Add(kCommandRefreshRules, this, [this] { m_cityCommands->RefreshRules(); });
-    m_commands.Add(kCommandTwelveHour, this, [this] { ToggleSetting(keys::kRoamlytix, names::kTwelveHour); })
-        ->setCheckable(true);
-    m_commands.Add(kCommandDeviceTimeZone, this, [this] { ToggleSetting(keys::kWorldClock, names::kSyncZone); })
-        ->setCheckable(true);
-    m_commands.Add(kCommandShowCities, this, [this] { ToggleSetting(keys::kMap, names::kShowCities, 1); })
-        ->setCheckable(true);
     m_commands.Add(kCommandUpdateWeather, this, [this] { UpdateWeather(); });
-    m_commands.Add(kCommandFahrenheit, this, [this] { ToggleSetting(keys::kRoamlytix, names::kFahrenheit); })
-        ->setCheckable(true);
     m_commands
         .Add(kCommandFullScreen, this,
              [this] { m_window->setWindowState(m_window->windowState() ^ Qt::WindowFullScreen); })
@@ -218,29 +201,13 @@ void CApplication::MakeCommands() {
                    [this] { CTodayDialog(*m_settings, m_resources, m_window.get()).exec(); });
     m_commands.Add(kCommandLanguage, this, [this] { m_languages->Choose(m_window.get()); });
     m_commands.Add(kCommandInstallLanguages, this, [this] { m_languages->Install(m_window.get()); });
-    m_commands.Add(kCommandCredits, this, [this] { ShowCredits(); });
-    m_commands.Add(kCommandAbout, this, [this] { ShowAbout(); });
+    m_commands.Add(kCommandCredits, this, [this] { ShowCredits(m_resources, m_files, *m_folder, m_window.get()); });
+    m_commands.Add(kCommandAbout, this, [this] { ShowAbout(m_resources, m_boxes); });
     m_commands.Add(kCommandExit, this, [this] { m_window->close(); })->setShortcut(QKeySequence::Quit);
     if (const auto entries = m_resources.Menu(kMenuMain)) FillMenu(m_window->Menu(), *entries, m_commands);
     for (const int command : {kCommandFullScreen, kCommandExit})
         m_window->addAction(m_commands.Find(command));
-    connect(m_window.get(), &CMainWindow::AboutToShowMenu, this, &CApplication::UpdateChecks);
-}
-
-void CApplication::UpdateChecks() {
-    const bool twelve = m_settings->ReadDwordOr(keys::kRoamlytix, names::kTwelveHour, 0) == 1;
-    m_commands.Find(kCommandTwelveHour)->setChecked(twelve);
-    m_commands.Find(kCommandShowCities)->setChecked(m_settings->ReadDwordOr(keys::kMap, names::kShowCities, 1) == 1);
-    const bool fahrenheit = m_settings->ReadDwordOr(keys::kRoamlytix, names::kFahrenheit, 0) == 1;
-    m_commands.Find(kCommandFahrenheit)->setChecked(fahrenheit);
-    m_commands.Find(kCommandDeviceTimeZone)->setChecked(LoadClockSettings(*m_settings).syncZone != 0);
-}
-
-/// Writes the negation of the current state.
-void CApplication::ToggleSetting(std::u16string_view key, std::u16string_view name, std::uint32_t fallback) {
-    const bool on = m_settings->ReadDwordOr(key, name, fallback) != 0;
-    m_settings->WriteDword(RootOf(key), key, name, on ? 0 : 1);
-    m_window->RefreshScreens();
+    connect(m_window.get(), &CMainWindow::AboutToShowMenu, this, [this] { m_switches->UpdateTicks(); });
 }
 
 void CApplication::RestoreScreen() {
@@ -263,24 +230,6 @@ std::optional<CityIndex> CApplication::ChooseCity(QWidget* parent, const QString
     CCityChooser chooser(*m_cities, times, m_resources, twelve ? ClockForm::kTwelve : ClockForm::kTwentyFour, title,
                          current, parent);
     return chooser.exec() == QDialog::Accepted ? chooser.Selected() : std::nullopt;
-}
-
-void CApplication::ShowCredits() {
-    CTemplateDialog dialog(m_resources.Dialog(kDialogCredits).value_or(DialogTemplate{}), m_window.get());
-    dialog.setObjectName("credits");
-    dialog.resize(560, 480);
-    const auto file = m_folder->Path(u"\\SOURCES.md");
-    const auto text = file ? m_files.ReadFile(*file, kCreditsLimit) : std::nullopt;
-    if (auto* field = dialog.Control<QPlainTextEdit>(kControlCreditsText)) {
-        field->setPlainText(
-            ToQString(text ? FromUtf8(*text) : FillText(m_resources.Text(kTextFileNotRead), {u"SOURCES.md"})));
-    }
-    dialog.exec();
-}
-
-void CApplication::ShowAbout() {
-    m_boxes.Show({m_resources.Text(kTextAppName), FillText(m_resources.Text(kTextVersion), {Widen(kVersion)}),
-                  BoxIcon::kInformation, BoxButtons::kOk});
 }
 
 void CApplication::AskAtStart() {

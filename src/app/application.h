@@ -12,6 +12,7 @@
 #include "app/reminder_commands.h"
 #include "app/silent_message_boxes.h"
 #include "app/skin_commands.h"
+#include "app/switch_commands.h"
 #include "base/calendar.h"
 #include "clocks/ui/clocks_screen.h"
 #include "map/ui/map_screen.h"
@@ -76,12 +77,8 @@ private:
     void AskAtStart();
     void RestoreScreen();
     void ApplyLook();
-    void UpdateChecks();
-    void ToggleSetting(std::u16string_view key, std::u16string_view name, std::uint32_t fallback = 0);
     void ShowCityInformation(CityIndex city);
     void OpenSunDetails(const CitySunDetails& details);
-    void ShowCredits();
-    void ShowAbout();
     std::optional<CityIndex> ChooseCity(QWidget* parent, const QString& title, CityIndex current);
 
     WindowOptions m_options;
@@ -102,6 +99,7 @@ private:
     std::optional<CCityCommands> m_cityCommands;
     std::optional<CWeatherStore> m_weather;
     CCommandTable m_commands;
+    std::optional<CSwitchCommands> m_switches;
     std::optional<CFeedWiring> m_feeds;
     std::unique_ptr<CMainWindow> m_window;
     CClocksScreen* m_clocksScreen = nullptr;    ///< owned by the window

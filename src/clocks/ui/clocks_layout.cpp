@@ -1,6 +1,7 @@
 #include "clocks/ui/clocks_layout.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace rlx {
 
@@ -91,6 +92,29 @@ ClocksLayout LayOutClocks(const QRectF& area) {
     for (std::size_t i = 0; i < cells.size(); ++i)
         layout[i + 1] = CellOf(cells[i], gap, kFourLines);
     return layout;
+}
+
+std::optional<std::size_t> ClockAt(const ClocksLayout& layout, const QPointF& point) {
+    const auto found = std::find_if(layout.begin(), layout.end(),
+                                    [&point](const ClockCell& cell) { return cell.card.contains(point); });
+    if (found == layout.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - layout.begin());
+}
+
+std::optional<std::size_t> ClockTowards(const ClocksLayout& layout, std::size_t from, int columns, int rows) {
+    double best = 0;
+    std::optional<std::size_t> nearest;
+    for (std::size_t clock = 0; clock < layout.size(); ++clock) {
+        const QPointF way = layout[clock].card.center() - layout[from].card.center();
+        const double along = way.x() * columns + way.y() * rows;
+        if (along <= 1) continue;
+        const double across = std::abs(way.x() * rows) + std::abs(way.y() * columns);
+        const double distance = along + 2 * across;
+        if (nearest && distance >= best) continue;
+        nearest = clock;
+        best = distance;
+    }
+    return nearest;
 }
 
 }  // namespace rlx

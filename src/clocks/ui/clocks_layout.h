@@ -2,6 +2,8 @@
 
 #include <QRectF>
 #include <array>
+#include <cstddef>
+#include <optional>
 
 namespace rlx {
 
@@ -25,5 +27,12 @@ using ClocksLayout = std::array<ClockCell, 5>;
 /// Lays the five clocks out in `area` (pixels), home large: on top when upright, on the left when lying. The cards
 /// never overlap and fill the area, whatever its size.
 ClocksLayout LayOutClocks(const QRectF& area);
+
+/// The clock whose card lies under a point.
+std::optional<std::size_t> ClockAt(const ClocksLayout& layout, const QPointF& point);
+
+/// The clock that an arrow key leads to: the nearest whose centre lies in that direction, `columns` to the right or
+/// `rows` down, each -1 to 1. Nothing beyond the last.
+std::optional<std::size_t> ClockTowards(const ClocksLayout& layout, std::size_t from, int columns, int rows);
 
 }  // namespace rlx

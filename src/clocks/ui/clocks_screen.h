@@ -2,28 +2,25 @@
 
 #include <QMenu>
 #include <QTimer>
-#include <array>
 #include <functional>
 #include <optional>
 
 #include "clocks/ui/choose_city.h"
-#include "clocks/ui/clock_painter.h"
 #include "clocks/ui/clocks_layout.h"
+#include "clocks/ui/clocks_picture.h"
 #include "places/city_info.h"
 #include "places/city_times.h"
 #include "platform/message_boxes.h"
-#include "shell/clock_text.h"
 #include "shell/registry_store.h"
 #include "shell/resources.h"
 #include "uikit/look.h"
 #include "uikit/screen.h"
-#include "uikit/still_picture.h"
 #include "uikit/template_menu.h"
 
 namespace rlx {
 
 /// The home clock and four more. A tap tells about the city, a long tap or the menu key offers what can be done with
-/// the clock; the arrow keys move between the clocks. All five are painted by this one widget.
+/// the clock; the arrow keys move between the clocks. All five are parts of this one widget.
 class CClocksScreen : public CScreen {
     Q_OBJECT
 
@@ -72,24 +69,10 @@ protected:
 
 private:
     void MakeMenu();
-    void PaintBell(QPainter& painter) const;
-    /// What the still part of the picture depends on, but for the look.
-    struct Still {
-        std::array<bool, 5> days{};          ///< the faces that show day
-        std::optional<std::size_t> focused;  ///< as far as it shows
-
-        bool operator==(const Still&) const = default;
-    };
-
-    Still StillNow() const;
-    void PaintStill(QPainter& painter, const Still& still) const;
-    void PaintClock(QPainter& painter, std::size_t clock) const;
-    ClockTexts TextsOf(std::size_t clock) const;
-    ClockColours ColoursOf(std::size_t clock) const;
-    std::optional<std::size_t> ClockAt(const QPointF& point) const;
     void OpenMenu(std::size_t clock, const QPoint& globalPoint);
     void UseAsHome(std::size_t clock);
     void MoveFocus(int columns, int rows);
+    void Focus(std::size_t clock, bool show);
     void NameFocusedClock();
 
     CCityDatabase& m_cities;
@@ -100,20 +83,15 @@ private:
     const CLook& m_look;
     CityChooser m_chooseCity;
     std::function<void(const CitySunDetails&)> m_showSunDetails;
-
     OpenReminders m_openReminders;
-    int m_waitingReminders = 0;
-
     std::optional<CCityTimes> m_times;  ///< made anew when the settings change
-    std::array<ClockReading, 5> m_clocks;
+    ShownClocks m_clocks;
     ClocksLayout m_layout;
-    CStillPicture<Still> m_still;
-    ClockForm m_form = ClockForm::kTwentyFour;
+    CClocksPicture m_picture;
     CCommandTable m_commands;
     QMenu m_menu;
     QTimer m_longTap;
     std::size_t m_focused = 0;
-    bool m_showFocus = false;  ///< only for those who move by keyboard
     std::optional<std::size_t> m_pressed;
     QPoint m_pressedAt;
 };
