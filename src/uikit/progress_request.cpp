@@ -1,6 +1,8 @@
 #include "uikit/progress_request.h"
 
+#include <QCoreApplication>
 #include <QDialog>
+#include <QEvent>
 #include <QEventLoop>
 #include <QLabel>
 #include <QProgressBar>
@@ -72,7 +74,7 @@ void CProgressBox::Run(const std::function<void()>& work) {
     std::thread worker([&] {
         work();
         done = true;
-        QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection);
+        QCoreApplication::postEvent(&loop, new QEvent(QEvent::Quit));
     });
     if (!m_dialog->isVisible()) {
         // Until the box stands nobody may press anything else: what is pressed waits.
