@@ -103,6 +103,24 @@ QString DateWithDistance(const ClockTexts& texts, const QRectF& line) {
     return texts.date.section(' ', 0, 0) + QStringLiteral("  ") + texts.shortNote;
 }
 
+/// The lines of texts, from above; without a note where four lines cannot be read or there is none.
+struct TextLines {
+    QRectF city;
+    QRectF time;
+    QRectF date;
+    QRectF note;
+};
+
+TextLines TextLinesIn(const QRectF& area, const ClockTexts& texts) {
+    const double unit = area.height() / 10.0;
+    const auto line = [&area, unit](double from, double rows) {
+        return QRectF(area.left(), area.top() + from * unit, area.width(), rows * unit);
+    };
+    if (!texts.note.isEmpty() && area.height() >= kHeightForNote)
+        return {line(0, 2.5), line(2.5, 3.3), line(5.9, 2.0), line(7.9, 2.0)};
+    return {line(0.2, 2.9), line(3.1, 3.9), line(7.2, 2.5), {}};
+}
+
 }  // namespace
 
 void PaintClockFace(QPainter& painter, const QRectF& area, bool day, const ClockColours& colours) {
@@ -134,22 +152,18 @@ void PaintClockHands(QPainter& painter, const QRectF& area, const ClockHands& ha
     painter.drawEllipse(centre, std::max(1.5, radius * 0.05), std::max(1.5, radius * 0.05));
 }
 
-void PaintClockTexts(QPainter& painter, const QRectF& area, const ClockTexts& texts, const ClockColours& colours,
+void PaintClockNotes(QPainter& painter, const QRectF& area, const ClockTexts& texts, const ClockColours& colours,
                      Qt::Alignment alignment) {
-    const double unit = area.height() / 10.0;
-    const auto line = [&area, unit](double from, double rows) {
-        return QRectF(area.left(), area.top() + from * unit, area.width(), rows * unit);
-    };
-    if (!texts.note.isEmpty() && area.height() >= kHeightForNote) {
-        PaintLine(painter, line(0, 2.5), texts.city, colours.city, true, alignment);
-        PaintTime(painter, line(2.5, 3.3), texts, colours.digital, alignment);
-        PaintLine(painter, line(5.9, 2.0), texts.date, colours.date, false, alignment);
-        PaintLine(painter, line(7.9, 2.0), texts.note, colours.date, false, alignment);
-        return;
-    }
-    PaintLine(painter, line(0.2, 2.9), texts.city, colours.city, true, alignment);
-    PaintTime(painter, line(3.1, 3.9), texts, colours.digital, alignment);
-    PaintLine(painter, line(7.2, 2.5), DateWithDistance(texts, line(7.2, 2.5)), colours.date, false, alignment);
+    const TextLines lines = TextLinesIn(area, texts);
+    const QString date = lines.note.isEmpty() ? DateWithDistance(texts, lines.date) : texts.date;
+    PaintLine(painter, lines.city, texts.city, colours.city, true, alignment);
+    PaintLine(painter, lines.date, date, colours.date, false, alignment);
+    if (!lines.note.isEmpty()) PaintLine(painter, lines.note, texts.note, colours.date, false, alignment);
+}
+
+void PaintClockTime(QPainter& painter, const QRectF& area, const ClockTexts& texts, const QColor& colour,
+                    Qt::Alignment alignment) {
+    PaintTime(painter, TextLinesIn(area, texts).time, texts, colour, alignment);
 }
 
 }  // namespace rlx

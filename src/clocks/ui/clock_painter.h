@@ -27,6 +27,8 @@ struct ClockTexts {
     QString date;
     QString note;       ///< day and distance as seen from home; empty for home itself
     QString shortNote;  ///< the distance alone, for small clocks
+
+    bool operator==(const ClockTexts&) const = default;
 };
 
 /// Draws the face of an analog clock without its hands, day or night told by its ground, into the largest circle within
@@ -37,8 +39,13 @@ void PaintClockFace(QPainter& painter, const QRectF& area, bool day, const Clock
 void PaintClockHands(QPainter& painter, const QRectF& area, const ClockHands& hands, bool day,
                      const ClockColours& colours);
 
-/// Draws the texts of a clock into `area`, each line as large as fits. `alignment` is left or centred.
-void PaintClockTexts(QPainter& painter, const QRectF& area, const ClockTexts& texts, const ClockColours& colours,
+/// Draws what a clock says from minute to minute into `area`: city, date and note, each line as large as fits. The room
+/// between them is for the time. `alignment` is left or centred.
+void PaintClockNotes(QPainter& painter, const QRectF& area, const ClockTexts& texts, const ClockColours& colours,
                      Qt::Alignment alignment);
+
+/// Draws the time into the room that the notes of the same area leave for it.
+void PaintClockTime(QPainter& painter, const QRectF& area, const ClockTexts& texts, const QColor& colour,
+                    Qt::Alignment alignment);
 
 }  // namespace rlx

@@ -1,6 +1,7 @@
 #include "clocks/ui/clocks_picture.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/text.h"
 #include "clocks/text_ids.h"
@@ -22,6 +23,17 @@ bool IsDay(const ClockReading& reading) {
     return IsDayFace(static_cast<int>(reading.hour));
 }
 
+Qt::Alignment AlignmentOf(const ClockCell& cell) {
+    return cell.centred ? Qt::AlignHCenter : Qt::AlignLeft;
+}
+
+void PaintHandsAndTime(QPainter& painter, const ClockCell& cell, const ClockReading& reading, const ClockTexts& texts,
+                       const ClockColours& colours) {
+    const ClockHands hands = HandsAt(static_cast<int>(reading.hour), reading.minute, reading.second);
+    PaintClockHands(painter, cell.face, hands, IsDay(reading), colours);
+    PaintClockTime(painter, cell.texts, texts, colours.digital, AlignmentOf(cell));
+}
+
 }  // namespace
 
 ClockTexts TextsOf(const ShownClocks& clocks, std::size_t clock, const ITexts& texts) {
@@ -40,14 +52,22 @@ ClockTexts TextsOf(const ShownClocks& clocks, std::size_t clock, const ITexts& t
 
 void CClocksPicture::Paint(QPainter& painter, const QSize& size, const ClocksLayout& layout,
                            const ShownClocks& clocks) {
-    Still still{{}, clocks.focused};
-    std::transform(clocks.readings.begin(), clocks.readings.end(), still.days.begin(), IsDay);
+    Still still;
+    still.focused = clocks.focused;
+    std::array<ClockTexts, 5> texts;
+    for (std::size_t clock = 0; clock < layout.size(); ++clock) {
+        texts[clock] = TextsOf(clocks, clock, m_texts);
+        still.days[clock] = IsDay(clocks.readings[clock]);
+        still.texts[clock] = texts[clock];
+        still.texts[clock].time.clear();
+        still.texts[clock].half.clear();
+    }
     painter.drawPixmap(0, 0, m_still.Of(still, size, painter.device()->devicePixelRatioF(), [&](QPainter& p) {
         PaintStill(p, size, layout, still);
     }));
     painter.setRenderHint(QPainter::Antialiasing);
     for (std::size_t clock = 0; clock < layout.size(); ++clock)
-        PaintClock(painter, layout[clock], clocks, clock);
+        PaintHandsAndTime(painter, layout[clock], clocks.readings[clock], texts[clock], ColoursOf(clock));
     PaintBell(painter, layout[0].bell, clocks.waitingReminders);
 }
 
@@ -59,18 +79,10 @@ void CClocksPicture::PaintStill(QPainter& painter, const QSize& size, const Cloc
         painter.setPen(clock == still.focused ? QPen(m_look.Accent(), 2) : QPen(Qt::NoPen));
         painter.setBrush(m_look.Card());
         painter.drawRoundedRect(layout[clock].card, kCardRadius, kCardRadius);
-        PaintClockFace(painter, layout[clock].face, still.days[clock], ColoursOf(clock));
+        const ClockColours colours = ColoursOf(clock);
+        PaintClockFace(painter, layout[clock].face, still.days[clock], colours);
+        PaintClockNotes(painter, layout[clock].texts, still.texts[clock], colours, AlignmentOf(layout[clock]));
     }
-}
-
-void CClocksPicture::PaintClock(QPainter& painter, const ClockCell& cell, const ShownClocks& clocks,
-                                std::size_t clock) const {
-    const ClockReading& reading = clocks.readings[clock];
-    const ClockColours colours = ColoursOf(clock);
-    const ClockHands hands = HandsAt(static_cast<int>(reading.hour), reading.minute, reading.second);
-    PaintClockHands(painter, cell.face, hands, IsDay(reading), colours);
-    PaintClockTexts(painter, cell.texts, TextsOf(clocks, clock, m_texts), colours,
-                    cell.centred ? Qt::AlignHCenter : Qt::AlignLeft);
 }
 
 /// In the skin's colour of the home clock's date, as quiet as that.

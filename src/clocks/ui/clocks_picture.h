@@ -26,8 +26,8 @@ struct ShownClocks {
 /// What one of the clocks says.
 ClockTexts TextsOf(const ShownClocks& clocks, std::size_t clock, const ITexts& texts);
 
-/// Paints the five clocks on their cards. The ground, the cards and the faces, the most of the work, are painted once
-/// and kept. References must outlive it; user-interface thread.
+/// Paints the five clocks on their cards. All but the hands and the times, the most of the work, is painted once and
+/// kept. References must outlive it; user-interface thread.
 class CClocksPicture {
 public:
     CClocksPicture(const CLook& look, const ITexts& texts) : m_look(look), m_texts(texts) {}
@@ -40,14 +40,14 @@ public:
 private:
     /// What the still part of the picture depends on, but for the look and the layout, which follows from the size.
     struct Still {
-        std::array<bool, 5> days{};  ///< the faces that show day
+        std::array<bool, 5> days{};       ///< the faces that show day
+        std::array<ClockTexts, 5> texts;  ///< without the time
         std::optional<std::size_t> focused;
 
         bool operator==(const Still&) const = default;
     };
 
     void PaintStill(QPainter& painter, const QSize& size, const ClocksLayout& layout, const Still& still) const;
-    void PaintClock(QPainter& painter, const ClockCell& cell, const ShownClocks& clocks, std::size_t clock) const;
     void PaintBell(QPainter& painter, const QRectF& bell, int waitingReminders) const;
     ClockColours ColoursOf(std::size_t clock) const;
 
