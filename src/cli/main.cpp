@@ -68,6 +68,18 @@ std::string Choices(const CLI::App& group) {
     return words;
 }
 
+/// " --ut TIME" of the options that a command must have, " [--date DATE]" of those that it may have.
+std::string OwnOptions(const CLI::App& command) {
+    std::string words;
+    for (const CLI::Option* option : command.get_options()) {
+        if (option->get_positional() || option == command.get_help_ptr()) continue;
+        const bool isFlag = option->get_items_expected_max() == 0;
+        const std::string name = option->get_name() + (isFlag ? "" : " " + option->get_type_name());
+        words += option->get_required() ? " " + name : " [" + name + "]";
+    }
+    return words;
+}
+
 /// One line that says how the command that was meant is used.
 std::string Usage(const CLI::App& app) {
     const CLI::App* at = &app;
@@ -76,17 +88,19 @@ std::string Usage(const CLI::App& app) {
         at = at->get_subcommands().front();
         words += " " + at->get_name();
     }
+    const std::string path = words;
     for (const CLI::Option* option : at->get_options([](const CLI::Option* o) { return o->get_positional(); })) {
         const std::string name = option->get_name(true);
         words += option->get_required() ? " " + name : " [" + name + "]";
     }
+    if (at != &app) words += OwnOptions(*at);
     bool hasCommands = false;
     for (const CLI::App* sub : at->get_subcommands([](const CLI::App*) { return true; })) {
         hasCommands = hasCommands || !sub->get_name().empty();
         if (sub->get_name().empty()) words += " (" + Choices(*sub) + ")";
     }
-    if (hasCommands) words += " COMMAND";
-    return "usage: " + words + " (rlx --help lists more)";
+    if (hasCommands) words += at->get_require_subcommand_min() > 0 ? " COMMAND" : " [COMMAND]";
+    return "usage: " + words + " (" + path + " --help tells more)";
 }
 
 /// The words that no option and no command took, the innermost first.

@@ -114,7 +114,8 @@ void DeclareToday(CLI::App& app, const SetAction& setAction) {
     options
         ->add_option_function<std::string>(
             "--rates", [change](const std::string& word) { change->rates = word == "on"; }, "on or off")
-        ->check(CLI::IsMember({"on", "off"}));
+        ->type_name("on|off")
+        ->check(CLI::IsMember({"on", "off"}).description(""));
 }
 
 }  // namespace rlx::cli

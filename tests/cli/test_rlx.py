@@ -114,6 +114,9 @@ class Usage(RlxTest):
                 self.assertEqual((done.returncode, done.stdout, len(lines)), (2, b"", 2))
                 self.assertIn(wrong, lines[0])
                 self.assertTrue(lines[1].startswith("usage: rlx"), lines[1])
+        for line, use in (("sky", "--ut TIME"), ("sun", "CITY [--date DATE]"), ("weather -x", "[CITY] [COMMAND]"),
+                          ("today options --rates x", "[--cities NUMBER] [--rates on|off]")):
+            self.assertIn(f"{use} (rlx", self.run_rlx(*line.split()).stderr.decode())
         done = self.run_rlx("clocks", "--now", b"\xff", "--json")
         self.assertEqual((done.returncode, json.loads(done.stdout)["messages"]), (2, []))
         self.assertEqual(list(self.folder.iterdir()), [self.home])
